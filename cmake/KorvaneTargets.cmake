@@ -1,0 +1,49 @@
+# SPDX-FileCopyrightText: 2026 The Korvane authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# What every target of this project is built with: warnings, hardening, sanitizers.
+add_library(KorvaneOptions INTERFACE)
+target_include_directories(KorvaneOptions INTERFACE ${CMAKE_SOURCE_DIR})
+target_compile_features(KorvaneOptions INTERFACE cxx_std_20)
+target_compile_options(KorvaneOptions INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+    $<$<BOOL:${KORVANE_WARNINGS_AS_ERRORS}>:-Werror>)
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    target_compile_definitions(KorvaneOptions INTERFACE _FILE_OFFSET_BITS=64)
+endif()
+
+if(KORVANE_SANITIZE)
+    target_compile_options(KorvaneOptions INTERFACE -fsanitize=${KORVANE_SANITIZE} -fno-omit-frame-pointer)
+    target_link_options(KorvaneOptions INTERFACE -fsanitize=${KORVANE_SANITIZE})
+    if(KORVANE_SANITIZE MATCHES "undefined")
+        target_compile_options(KorvaneOptions INTERFACE -fno-sanitize-recover=undefined)
+    endif()
+else()
+    target_compile_options(KorvaneOptions INTERFACE -fstack-protector-strong
+        $<$<CONFIG:Release>:-U_FORTIFY_SOURCE$<SEMICOLON>-D_FORTIFY_SOURCE=2>)
+    if(NOT APPLE)
+        target_link_options(KorvaneOptions INTERFACE -Wl,-z,relro,-z,now)
+    endif()
+endif()
+
+# korvane_add_test(NAME SOURCES file... LIBRARIES target... [QT])
+#
+# One test program, one line at the call. GoogleTest programs register each test; with QT the
+# program is a Qt Test of its own and runs as one.
+function(korvane_add_test name)
+    cmake_parse_arguments(ARG "QT" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE KorvaneOptions ${ARG_LIBRARIES})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    if(ARG_QT)
+        find_package(Qt6 REQUIRED COMPONENTS Test)
+        target_link_libraries(${name} PRIVATE Qt6::Test)
+        set_target_properties(${name} PROPERTIES AUTOMOC ON)
+        add_test(NAME ${name} COMMAND ${name})
+        set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+    else()
+        target_link_libraries(${name} PRIVATE GTest::gmock GTest::gtest_main)
+        gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
+            PROPERTIES ENVIRONMENT "LC_ALL=C.UTF-8")
+    endif()
+endfunction()
