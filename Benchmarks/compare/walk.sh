@@ -1,0 +1,77 @@
+# SPDX-FileCopyrightText: 2026 The Korvane authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# shellcheck shell=bash
+#
+# Jobs of measuring and walking; sourced by compare.sh. Every answer is the allocated bytes of all regular files.
+JOBS+=(measure measure_cold large large_cold caches)
+
+sum_of_blocks="awk '{ total += \$1 } END { printf \"%.0f\\n\", total * 512 }'"
+
+# What du adds for the folders themselves, so that its answer can be compared.
+bytes_of_folders() { find "$@" -type d -printf '%b\n' | eval "$sum_of_blocks"; }
+
+drop_caches="sync; echo 3 >/proc/sys/vm/drop_caches"
+
+measure_contestants() { # PATH...
+    local of_folders
+    of_folders=$(bytes_of_folders "$@")
+    contestant "bare loop" cat "$tools/bench-bare-walk" "$@"
+    contestant korvane cat "$tools/bench-measure" "$@"
+    contestant du "awk -v f=$of_folders '{ total += \$1 } END { printf \"%.0f\\n\", total - f }'" du -s -l -B1 "$@"
+    contestant find "$sum_of_blocks" find "$@" -type f -printf '%b\n'
+    has bfs && contestant "bfs -j8" "$sum_of_blocks" bfs -j8 "$@" -type f -printf '%b\n'
+    if has gdu && (($# == 1)); then contestant gdu - gdu -n -p -s "$@"; fi
+}
+
+job_measure() {
+    local tree
+    tree=$(made_tree tree "$files" "$folders" 40)
+    begin "Measure $files files in $folders folders, warm"
+    measure_contestants "$tree"
+    finish
+}
+
+job_measure_cold() {
+    local tree
+    [[ -w /proc/sys/vm/drop_caches ]] || { echo "measure_cold: only root can drop the caches" >&2; return; }
+    tree=$(made_tree tree "$files" "$folders" 40)
+    begin "Measure $files files in $folders folders, cold"
+    before=$drop_caches
+    measure_contestants "$tree"
+    finish
+}
+
+large_contestants() { # PATH
+    local leaving_out=(-mindepth 1 '(' -name '.*' -o -type d '(' -name node_modules -o -name Library -o -name '*.app' ')' ')' -prune)
+    contestant "bare loop" cat "$tools/bench-bare-walk" --home "$1"
+    contestant korvane cat "$tools/bench-large-walk" "$1"
+    contestant find "$sum_of_blocks" find "$1" "${leaving_out[@]}" -o -type f -printf '%b\n'
+    has bfs && contestant "bfs -j8" "$sum_of_blocks" bfs -j8 "$1" "${leaving_out[@]}" -o -type f -printf '%b\n'
+    return 0
+}
+
+job_large() {
+    local tree
+    tree=$(made_tree tree "$files" "$folders" 40)
+    begin "Walk a home folder for large files, in order, warm"
+    large_contestants "$tree"
+    finish
+}
+
+job_large_cold() {
+    local tree
+    [[ -w /proc/sys/vm/drop_caches ]] || { echo "large_cold: only root can drop the caches" >&2; return; }
+    tree=$(made_tree tree "$files" "$folders" 40)
+    begin "Walk a home folder for large files, in order, cold"
+    before=$drop_caches
+    large_contestants "$tree"
+    finish
+}
+
+job_caches() {
+    local tree
+    tree=$(made_tree caches "$((files / 2))" "$((folders / 2))" 400)
+    begin "Measure 400 folders one by one, warm"
+    measure_contestants "$tree"/*/ "$tree"/.h*/
+    finish
+}
