@@ -35,6 +35,13 @@ public:
         bool operator==(const Result&) const = default;
     };
 
+    /// What cleaning does to one item.
+    enum class Action { EmptyTrash, Delete, MoveToTrash };
+
+    /// What `clean` would do with `url`: a Trash folder is emptied and what lies in one is deleted, whatever
+    /// `moveToTrash` says. Compares plain path texts; touches nothing.
+    static Action action(const std::filesystem::path& url, bool moveToTrash, const FileManager& files);
+
     /// Moves each item to the Trash, or deletes it; a Trash folder is emptied and what lies in one is deleted,
     /// whichever is asked. Never stops early and never throws for an item: failures are in the result.
     /// Off the main thread; cannot be cancelled.

@@ -7,9 +7,6 @@
 
 namespace Korvane {
 
-std::string formattedBytes(std::int64_t byteCount)
-{
-    return ByteCountFormatter::string(byteCount);
-}
+std::string formattedBytes(std::int64_t byteCount) { return ByteCountFormatter::string(byteCount); }
 
 } // namespace Korvane

@@ -14,10 +14,10 @@ namespace Korvane {
 
 /// One candidate for cleaning. A plain value; compared member by member.
 struct ScanItem {
-    Uuid id;                    ///< Fresh for every construction: two scans of one file give two items.
-    std::filesystem::path url;  ///< Absolute location of the file or folder.
-    std::string displayName;    ///< Shown in lists, UTF-8.
-    std::string category;       ///< The heading under which the item is listed, UTF-8.
+    Uuid id; ///< Fresh for every construction: two scans of one file give two items.
+    std::filesystem::path url; ///< Absolute location of the file or folder.
+    std::string displayName; ///< Shown in lists, UTF-8.
+    std::string category; ///< The heading under which the item is listed, UTF-8.
     std::int64_t sizeInBytes = 0; ///< Allocated bytes on disk.
     bool selectableByDefault = false; ///< Whether a scan ticks the item by itself; false: may be in use or needed.
 

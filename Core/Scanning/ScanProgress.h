@@ -11,9 +11,9 @@ namespace Korvane {
 
 /// How far a scan has come. A default record means no progress yet.
 struct ScanProgress {
-    std::string currentPath;      ///< What is being examined, as text to be shown (UTF-8).
+    std::string currentPath; ///< What is being examined, as text to be shown (UTF-8).
     std::int64_t itemsFound = 0;
-    std::int64_t bytesFound = 0;  ///< Total size of the items found so far.
+    std::int64_t bytesFound = 0; ///< Total size of the items found so far.
 
     bool operator==(const ScanProgress&) const = default;
 };

@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Core/Scanning/DuplicatesScanner.h"
+
+#include "Core/Scanning/FormattedBytes.h"
+#include "Core/Scanning/HomeWalk.h"
+#include "Core/Scanning/LastPathComponent.h"
+#include "Platform/Checked.h"
+#include "Platform/DisplayText.h"
+#include "Platform/FileDigest.h"
+
+#include <algorithm>
+#include <chrono>
+#include <string>
+#include <unordered_map>
+#include <utility>
+
+namespace Korvane {
+
+namespace {
+
+using Timestamp = std::chrono::sys_time<std::chrono::nanoseconds>;
+
+/// One file under consideration.
+struct Candidate {
+    std::filesystem::path url;
+    std::int64_t size;
+    Timestamp modified;
+};
+
+/// Files that lie side by side in the list of candidates and have the same size.
+struct SizeGroup {
+    std::vector<Candidate>::iterator begin;
+    std::vector<Candidate>::iterator end;
+};
+
+/// The files that may have copies, those of one size side by side and in walk order, the largest first.
+std::vector<Candidate> candidates(const DuplicatesScanner& scanner, const std::filesystem::path& home,
+    const ProgressHandler& progress, const Cancellation& cancellation)
+{
+    std::vector<Candidate> found;
+    const auto atMark = [&](const DirectoryEntry& entry) { progress({ displayText(entry.parentPath()), 0, 0 }); };
+    HomeWalk walk(scanner.root, home, atMark, cancellation);
+    while (const auto* file = walk.nextFile()) {
+        const auto& values = file->values();
+        if (values.fileSize && *values.fileSize >= scanner.minimumFileSize)
+            found.push_back(
+                { file->path(), *values.fileSize, values.contentModificationDate.value_or(Timestamp::min()) });
+    }
+    std::stable_sort(found.begin(), found.end(),
+        [](const Candidate& left, const Candidate& right) { return left.size > right.size; });
+    return found;
+}
+
+/// The files of one size by digest, in the order in which each digest was first met; unreadable files are left out.
+std::vector<std::vector<Candidate>> groupByDigest(SizeGroup group, FileDigest& digest, const Cancellation& cancellation)
+{
+    std::vector<std::vector<Candidate>> sets;
+    std::unordered_map<std::string, std::size_t> byHash;
+    for (auto candidate = group.begin; candidate != group.end; ++candidate) {
+        const auto hash = digest.prefixHash(candidate->url, cancellation);
+        if (!hash)
+            continue;
+        const auto [entry, isNew] = byHash.try_emplace(*hash, sets.size());
+        if (isNew)
+            sets.emplace_back();
+        sets[entry->second].push_back(std::move(*candidate));
+    }
+    return sets;
+}
+
+/// Turns sets of equal files into items, and counts those that can be removed.
+class Emission {
+public:
+    explicit Emission(const ProgressHandler& progress)
+        : m_progress(progress)
+    {
+    }
+
+    void emit(std::vector<Candidate>& set)
+    {
+        std::stable_sort(set.begin(), set.end(),
+            [](const Candidate& left, const Candidate& right) { return left.modified < right.modified; });
+        const auto& kept = set.front();
+        const auto keptName = displayName(kept.url);
+        const auto label
+            = keptName + " \u2014 " + std::to_string(set.size()) + " copies, " + formattedBytes(kept.size) + " each";
+        m_items.emplace_back(kept.url, keptName + " (original)", label, kept.size, false);
+        for (auto copy = set.begin() + 1; copy != set.end(); ++copy) {
+            m_items.emplace_back(copy->url, std::nullopt, label, copy->size, true);
+            m_found.currentPath = displayText(copy->url);
+            m_found.itemsFound = checkedAdd(m_found.itemsFound, 1);
+            m_found.bytesFound = checkedAdd(m_found.bytesFound, copy->size);
+            m_progress(m_found);
+        }
+    }
+
+    std::vector<ScanItem> takeItems() { return std::move(m_items); }
+
+private:
+    const ProgressHandler& m_progress;
+    ScanProgress m_found;
+    std::vector<ScanItem> m_items;
+};
+
+} // namespace
+
+DuplicatesScanner::DuplicatesScanner(
+    std::filesystem::path rootFolder, std::int64_t minimumSize, std::int64_t prefixBytes)
+    : minimumFileSize(minimumSize)
+    , hashPrefixBytes(prefixBytes)
+    , root(std::move(rootFolder))
+{
+}
+
+std::vector<ScanItem> DuplicatesScanner::scan(
+    const Host& host, const ProgressHandler& progress, const Cancellation& cancellation) const
+{
+    auto files = candidates(*this, host.files->homeDirectoryForCurrentUser(), progress, cancellation);
+    FileDigest digest(hashPrefixBytes);
+    Emission emission(progress);
+    for (auto begin = files.begin(); begin != files.end();) {
+        const auto end
+            = std::find_if(begin, files.end(), [&](const Candidate& file) { return file.size != begin->size; });
+        if (end - begin >= 2) {
+            cancellation.throwIfCancelled();
+            for (auto& set : groupByDigest({ begin, end }, digest, cancellation)) {
+                if (set.size() >= 2)
+                    emission.emit(set);
+            }
+        }
+        begin = end;
+    }
+    return emission.takeItems();
+}
+
+} // namespace Korvane

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Core/Scanning/HomeWalk.h"
+
+#include "Core/Scanning/ScanExclusions.h"
+
+#include <string_view>
+#include <utility>
+
+namespace Korvane {
+
+namespace {
+
+/// The folder's own text without the slashes behind it, so that paths made from it compare as plain texts.
+std::string withoutTrailingSlashes(std::string path)
+{
+    while (path.size() > 1 && path.back() == '/')
+        path.pop_back();
+    return path;
+}
+
+bool isOrLiesIn(std::string_view path, std::string_view folder)
+{
+    return path.substr(0, folder.size()) == folder && (path.size() == folder.size() || path[folder.size()] == '/');
+}
+
+} // namespace
+
+HomeWalk::HomeWalk(
+    const std::filesystem::path& root, const std::filesystem::path& home, MarkHandler atMark, Cancellation cancellation)
+    : m_library(std::filesystem::path(withoutTrailingSlashes(home.native())) / "Library")
+    , m_atMark(std::move(atMark))
+    , m_cancellation(std::move(cancellation))
+{
+    const auto rootText = withoutTrailingSlashes(root.native());
+    m_rootIsInLibrary = isOrLiesIn(rootText, m_library);
+    // A relative root would lead to wherever the program happens to have been started.
+    if (!root.is_absolute())
+        return;
+    EnumerationOptions options;
+    options.hiddenFiles = HiddenFiles::Skipped;
+    options.packageDescendants = PackageDescendants::Skipped;
+    options.values = PrefetchedValues::FileValues;
+    options.namesNeverEntered = &ScanExclusions::dependencyDirNames();
+    options.pathsNeverEntered = { m_library };
+    m_enumerator.emplace(rootText, std::move(options), m_cancellation);
+}
+
+const DirectoryEntry* HomeWalk::nextFile()
+{
+    if (!m_enumerator)
+        return nullptr;
+    while (const auto* entry = m_enumerator->next()) {
+        if (m_visited % entriesPerMark == 0) {
+            m_cancellation.throwIfCancelled();
+            m_atMark(*entry);
+        }
+        ++m_visited;
+        if (isPassedOver(*entry))
+            m_enumerator->skipDescendants();
+        else if (entry->hasValues() && entry->type() == EntryType::RegularFile)
+            return entry;
+    }
+    return nullptr;
+}
+
+bool HomeWalk::isPassedOver(const DirectoryEntry& entry)
+{
+    if (m_rootIsInLibrary)
+        return true;
+    // The name is compared first, so that a path is made for hardly any entry.
+    if (entry.name() == "Library" && entry.path().native() == m_library)
+        return true;
+    return entry.type() == EntryType::Directory && ScanExclusions::shouldSkip(entry.name());
+}
+
+} // namespace Korvane

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Core/Scanning/JunkLocation.h"
+
+#include "Core/Scanning/PlaceOverlap.h"
+#include "Platform/FileAttributes.h"
+#include "Platform/Host.h"
+
+#include <algorithm>
+
+namespace Korvane {
+
+namespace {
+
+using Expansion = JunkLocation::Expansion;
+using Provider = JunkLocation::Provider;
+
+/// A temporary directory that all users share is not this user's to remove: only what they left in it is.
+Expansion expansionOfTemporaryDirectory(const std::filesystem::path& folder)
+{
+    return attributesOfItem(folder).isSharedSticky ? Expansion::EachUnusedChild : Expansion::WholeFolder;
+}
+
+std::vector<JunkLocation> fixedLocations(const FileManager& files)
+{
+    const auto home = files.homeDirectoryForCurrentUser();
+    const auto temporary = files.temporaryDirectory();
+    return {
+        { home / "Library/Caches", JunkCategory::userCaches, Expansion::EachChild },
+        { home / "Library/Logs", JunkCategory::logFiles, Expansion::EachChild },
+        { home / "Library/Developer/Xcode/DerivedData", JunkCategory::xcodeJunk, Expansion::EachChild },
+        { home / "Library/Developer/CoreSimulator/Caches", JunkCategory::xcodeJunk, Expansion::WholeFolder },
+        { temporary, JunkCategory::temporaryFiles, expansionOfTemporaryDirectory(temporary) },
+        { home / ".Trash", JunkCategory::trash, Expansion::WholeFolder },
+    };
+}
+
+} // namespace
+
+std::vector<JunkLocation> junkLocations(const Host& host)
+{
+    auto locations = fixedLocations(*host.files);
+    PlaceOverlap taken;
+    taken.add(host.files->homeDirectoryForCurrentUser() / "Library");
+    for (const auto& location : locations) {
+        // What lies in a shared temporary directory is told apart child by child, and may be a place of its own.
+        if (location.expansion != Expansion::EachUnusedChild)
+            taken.add(location.url);
+    }
+    const auto addOwn = [&](const std::filesystem::path& url, std::string_view category, Expansion expansion) {
+        if (taken.overlaps(url) || attributesOfItem(url).isSharedSticky)
+            return;
+        taken.add(url);
+        locations.push_back({ url, category, expansion, Provider::Host });
+    };
+    for (const auto& cache : host.files->additionalCacheDirectories())
+        addOwn(cache, JunkCategory::userCaches, Expansion::EachChild);
+    for (const auto& trash : host.files->additionalTrashDirectories())
+        addOwn(trash, JunkCategory::trash, Expansion::WholeFolder);
+    locations.erase(std::remove_if(locations.begin(), locations.end(),
+                        [](const JunkLocation& location) { return !location.url.is_absolute(); }),
+        locations.end());
+    return locations;
+}
+
+} // namespace Korvane

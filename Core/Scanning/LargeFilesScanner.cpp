@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Core/Scanning/LargeFilesScanner.h"
+
+#include "Core/Scanning/HomeWalk.h"
+#include "Platform/Checked.h"
+#include "Platform/DisplayText.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Korvane {
+
+namespace {
+
+constexpr const char* category = "Large Files";
+
+void keepLargest(std::vector<ScanItem>& items, std::int64_t maxResults)
+{
+    std::stable_sort(items.begin(), items.end(),
+        [](const ScanItem& left, const ScanItem& right) { return left.sizeInBytes > right.sizeInBytes; });
+    const auto kept = std::clamp<std::int64_t>(maxResults, 0, static_cast<std::int64_t>(items.size()));
+    items.erase(items.begin() + static_cast<std::ptrdiff_t>(kept), items.end());
+}
+
+} // namespace
+
+LargeFilesScanner::LargeFilesScanner(std::int64_t threshold, std::int64_t maximumResults)
+    : thresholdBytes(threshold)
+    , maxResults(maximumResults)
+{
+}
+
+std::vector<ScanItem> LargeFilesScanner::scan(
+    const Host& host, const ProgressHandler& progress, const Cancellation& cancellation) const
+{
+    const auto home = host.files->homeDirectoryForCurrentUser();
+    std::vector<ScanItem> items;
+    ScanProgress found;
+    const auto atMark = [&](const DirectoryEntry& entry) {
+        found.currentPath = displayText(entry.parentPath());
+        progress(found);
+    };
+    HomeWalk walk(home, home, atMark, cancellation);
+    while (const auto* file = walk.nextFile()) {
+        const auto size = file->values().totalFileAllocatedSize;
+        if (!size || *size < thresholdBytes)
+            continue;
+        items.emplace_back(file->path(), displayText(file->name()), category, *size, false);
+        found.itemsFound = checkedAdd(found.itemsFound, 1);
+        found.bytesFound = checkedAdd(found.bytesFound, *size);
+        progress(found);
+    }
+    keepLargest(items, maxResults);
+    return items;
+}
+
+} // namespace Korvane

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Core/Scanning/SharedTemporaryFolder.h"
+
+#include "Core/Scanning/LastPathComponent.h"
+#include "Platform/DirectoryEnumerator.h"
+#include "Platform/FileAttributes.h"
+#include "Platform/LowerCase.h"
+
+#include <array>
+#include <string_view>
+#include <utility>
+
+namespace Korvane {
+
+namespace {
+
+bool endsWith(std::string_view text, std::string_view ending)
+{
+    return text.size() >= ending.size() && text.substr(text.size() - ending.size()) == ending;
+}
+
+/// Whether a name says that the thing is a lock: "lock", "lockfile", "index.lock", ".X0-lock", "SingletonLock".
+bool isNamedAsLock(std::string_view name)
+{
+    static constexpr std::array<std::string_view, 3> endings{ "lock", "lockfile", ".lck" };
+    const auto lower = lowercased(name);
+    for (const auto ending : endings) {
+        if (endsWith(lower, ending))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+SharedTemporaryFolder::SharedTemporaryFolder(PlaceOverlap protectedPlaces, Timestamp now)
+    : m_protectedPlaces(std::move(protectedPlaces))
+    , m_newestUnused(now - unusedFor)
+{
+}
+
+bool SharedTemporaryFolder::isUnused(const std::filesystem::path& child, const Cancellation& cancellation) const
+{
+    const auto attributes = attributesOfItem(child);
+    if (!attributes.exists || !attributes.isOwnedByCurrentUser || attributes.isSocketOrPipe || attributes.isLocked)
+        return false;
+    if (attributes.contentModificationDate > m_newestUnused || isNamedAsLock(lastPathComponent(child)))
+        return false;
+    if (m_protectedPlaces.isOrContainsPlace(child))
+        return false;
+    return !attributes.isDirectory || isContentUnused(child, cancellation);
+}
+
+bool SharedTemporaryFolder::isContentUnused(const std::filesystem::path& folder, const Cancellation& cancellation) const
+{
+    bool isReadable = true;
+    EnumerationOptions options;
+    options.values = PrefetchedValues::AllValues;
+    options.errorHandler = [&isReadable](const FileError&) {
+        isReadable = false;
+        return OnError::Stop;
+    };
+    DirectoryEnumerator enumerator(folder, std::move(options), cancellation);
+    int lockQuestionsLeft = lockQuestions;
+    while (const auto* entry = enumerator.next()) {
+        const auto modified = entry->values().contentModificationDate;
+        if (!entry->hasValues() || !modified || *modified > m_newestUnused)
+            return false;
+        if (entry->type() == EntryType::Other || isNamedAsLock(entry->name()))
+            return false;
+        if (entry->type() == EntryType::RegularFile && lockQuestionsLeft > 0) {
+            --lockQuestionsLeft;
+            if (attributesOfItem(entry->path()).isLocked)
+                return false;
+        }
+    }
+    return isReadable;
+}
+
+} // namespace Korvane
