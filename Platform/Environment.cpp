@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Platform/Environment.h"
+
+#include "Platform/TemporaryDirectory.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <pwd.h>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+namespace Korvane {
+
+namespace {
+
+/// Where a person without any home has theirs: absolute, and nothing is ever there to be found or removed.
+constexpr const char* noHome = "/nonexistent";
+
+std::filesystem::path withoutTrailingSlashes(std::string path)
+{
+    while (path.size() > 1 && path.back() == '/')
+        path.pop_back();
+    return path;
+}
+
+std::filesystem::path homeInPasswordDatabase()
+{
+    std::vector<char> buffer(4096);
+    passwd entry{};
+    passwd* found = nullptr;
+    constexpr std::size_t largestEntry = 1 << 20;
+    while (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) == ERANGE
+        && buffer.size() < largestEntry)
+        buffer.resize(buffer.size() * 2);
+    if (found == nullptr || found->pw_dir == nullptr || found->pw_dir[0] != '/')
+        return noHome;
+    return withoutTrailingSlashes(found->pw_dir);
+}
+
+std::optional<std::filesystem::path> baseDirectory(const char* name)
+{
+    auto path = absolutePathVariable(name);
+    if (path.empty())
+        return std::nullopt;
+    return path;
+}
+
+} // namespace
+
+std::filesystem::path absolutePathVariable(const char* name)
+{
+    const char* value = std::getenv(name);
+    if (value == nullptr || value[0] != '/')
+        return {};
+    return withoutTrailingSlashes(value);
+}
+
+Environment Environment::current()
+{
+    Environment environment;
+    environment.home = absolutePathVariable("HOME");
+    if (environment.home.empty())
+        environment.home = homeInPasswordDatabase();
+    environment.temporaryDirectory = systemTemporaryDirectory();
+    environment.xdgCacheHome = baseDirectory("XDG_CACHE_HOME");
+    environment.xdgConfigHome = baseDirectory("XDG_CONFIG_HOME");
+    environment.xdgDataHome = baseDirectory("XDG_DATA_HOME");
+    return environment;
+}
+
+Environment Environment::inFolder(const std::filesystem::path& folder)
+{
+    Environment environment;
+    environment.home = folder / "home";
+    environment.temporaryDirectory = folder / "tmp";
+    std::filesystem::create_directories(environment.home);
+    std::filesystem::create_directories(environment.temporaryDirectory);
+    return environment;
+}
+
+std::filesystem::path Environment::cacheHome() const { return xdgCacheHome.value_or(home / ".cache"); }
+
+std::filesystem::path Environment::configHome() const { return xdgConfigHome.value_or(home / ".config"); }
+
+std::filesystem::path Environment::dataHome() const { return xdgDataHome.value_or(home / ".local/share"); }
+
+} // namespace Korvane

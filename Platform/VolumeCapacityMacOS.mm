@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Platform/VolumeCapacity.h"
+
+#import <Foundation/Foundation.h>
+
+namespace Korvane {
+
+std::optional<VolumeCapacity> volumeCapacity(const std::filesystem::path& path)
+{
+    @autoreleasepool {
+        NSURL* url = [NSURL fileURLWithFileSystemRepresentation:path.c_str() isDirectory:YES relativeToURL:nil];
+        NSArray<NSURLResourceKey>* keys =
+            @[ NSURLVolumeTotalCapacityKey, NSURLVolumeAvailableCapacityForImportantUsageKey ];
+        NSDictionary<NSURLResourceKey, id>* values = [url resourceValuesForKeys:keys error:nil];
+        NSNumber* total = values[NSURLVolumeTotalCapacityKey];
+        if (total == nil)
+            return std::nullopt;
+        NSNumber* available = values[NSURLVolumeAvailableCapacityForImportantUsageKey];
+        return VolumeCapacity { total.longLongValue, available.longLongValue };
+    }
+}
+
+} // namespace Korvane

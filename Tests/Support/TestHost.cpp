@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Tests/Support/TestHost.h"
+
+namespace Korvane {
+
+TestHost makeTestHost(const TemporaryFolder& folder)
+{
+    const auto environment = Environment::inFolder(folder.path());
+    auto workspace = std::make_shared<TestWorkspace>();
+    Host host{ environment, makeFileManager(environment), workspace, makeUserDefaults(environment) };
+    return { std::move(host), std::move(workspace) };
+}
+
+} // namespace Korvane
