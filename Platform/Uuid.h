@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -22,7 +21,7 @@ struct Uuid {
     /// The usual text form, lower case, 36 characters.
     std::string toString() const;
 
-    auto operator<=>(const Uuid&) const = default;
+    bool operator==(const Uuid&) const = default;
 };
 
 } // namespace Korvane
