@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.UI
+
+/// A push button with a text, a symbol, or both.
+T.Button {
+    id: button
+
+    enum Kind {
+        Plain,
+        Prominent,
+        Destructive,
+        Borderless
+    }
+
+    property int kind: Button.Plain
+    property bool large: false
+    /// The name of the symbol before the text; empty for none.
+    property string symbol: ""
+
+    readonly property bool filled: button.kind === Button.Prominent || button.kind === Button.Destructive
+    readonly property color ink: button.filled ? Theme.onAccent
+        : button.kind === Button.Borderless ? Theme.linkLabel : Theme.label
+    readonly property color fill: {
+        switch (button.kind) {
+        case Button.Prominent:
+            return Theme.prominentFill;
+        case Button.Destructive:
+            return Theme.destructiveFill;
+        case Button.Borderless:
+            return "transparent";
+        default:
+            return Theme.controlFill;
+        }
+    }
+
+    implicitHeight: button.large ? Theme.largeControlHeight : Theme.controlHeight
+    implicitWidth: Math.max(button.implicitHeight, implicitContentWidth + leftPadding + rightPadding)
+    leftPadding: button.text === "" ? 0 : button.large ? 24 : 14
+    rightPadding: leftPadding
+    opacity: button.enabled ? 1 : 0.45
+    hoverEnabled: true
+    focusPolicy: Qt.StrongFocus
+    font.family: Theme.fontFamily
+    font.pixelSize: button.large ? Theme.title3 : Theme.body
+    font.weight: button.large || button.filled ? Font.DemiBold : Font.Medium
+
+    Keys.onReturnPressed: button.clicked()
+    Keys.onEnterPressed: button.clicked()
+    Accessible.name: button.text
+
+    contentItem: Item {
+        implicitWidth: children[0].implicitWidth
+        implicitHeight: children[0].implicitHeight
+
+        Row {
+            anchors.centerIn: parent
+            spacing: Theme.spacing
+
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: button.symbol !== ""
+                name: button.symbol
+                size: button.large ? 20 : 16
+                color: button.ink
+            }
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: button.text !== ""
+                text: button.text
+                textFormat: Text.PlainText
+                font: button.font
+                color: button.ink
+                Accessible.ignored: true
+            }
+        }
+    }
+
+    background: Rectangle {
+        radius: button.large ? Theme.radiusLarge : Theme.radius
+        color: button.fill
+        border.width: button.kind === Button.Plain ? 1 : 0
+        border.color: Theme.controlBorder
+
+        Rectangle {
+            anchors.fill: parent
+            radius: parent.radius
+            color: button.filled ? (button.down ? "#2e000000" : "#1affffff")
+                                 : (button.down ? Theme.pressedFill : Theme.hoverFill)
+            opacity: button.down || (button.hovered && button.enabled) ? 1 : 0
+
+            Behavior on opacity {
+                NumberAnimation {
+                    duration: Theme.durationShort
+                }
+            }
+        }
+        FocusRing {
+            shown: button.visualFocus
+            around: parent.radius
+        }
+    }
+}

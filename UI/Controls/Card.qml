@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Korvane.UI
+
+/// A rounded surface with a soft shadow that holds things belonging together.
+Item {
+    id: card
+
+    default property alias content: surface.data
+    property real radius: Theme.radiusCard
+    property bool shadow: true
+
+    SoftShadow {
+        anchors.fill: surface
+        anchors.margins: -12
+        anchors.topMargin: -9
+        anchors.bottomMargin: -15
+        visible: card.shadow
+        radius: card.radius
+        blur: 12
+        color: Theme.shadow
+    }
+    // The material is translucent: without a base of its own the shadow would show through it.
+    Rectangle {
+        anchors.fill: surface
+        visible: card.shadow
+        radius: card.radius
+        color: Theme.window
+    }
+    Rectangle {
+        id: surface
+
+        anchors.fill: parent
+        radius: card.radius
+        color: Theme.cardBackground
+        border.width: 1
+        border.color: Theme.cardBorder
+    }
+}

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.UI
+
+/// A sheet that asks before something is done: a title, what will happen, and two buttons.
+///
+/// Opens with the focus on the button that does nothing when what it confirms is destructive. `accepted` tells that the
+/// user confirmed, `rejected` that they did not; Escape rejects.
+T.Dialog {
+    id: dialog
+
+    /// What will happen.
+    required property string message
+    /// The text of the confirming button.
+    required property string confirmText
+    property string cancelText: qsTr("Cancel")
+    property string symbol: "exclamationmark.triangle.fill"
+    property color accent: Theme.orange
+    property bool destructive: false
+
+    parent: T.Overlay.overlay
+    anchors.centerIn: parent
+    modal: true
+    focus: true
+    padding: Theme.spacingHuge
+    implicitWidth: 400
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    closePolicy: T.Popup.CloseOnEscape
+    onOpened: (dialog.contentItem as ConfirmationContent).focusDefault()
+
+    contentItem: ConfirmationContent {
+        focus: true
+        title: dialog.title
+        message: dialog.message
+        confirmText: dialog.confirmText
+        cancelText: dialog.cancelText
+        symbol: dialog.symbol
+        accent: dialog.accent
+        destructive: dialog.destructive
+        onConfirmed: dialog.accept()
+        onCancelled: dialog.reject()
+    }
+
+    background: Item {
+        SoftShadow {
+            anchors.fill: parent
+            anchors.margins: -24
+            anchors.bottomMargin: -36
+            radius: Theme.radiusCard
+            blur: 24
+            color: Theme.shadow
+        }
+        Rectangle {
+            anchors.fill: parent
+            radius: Theme.radiusCard
+            color: Theme.elevated
+            border.width: 1
+            border.color: Theme.controlBorder
+        }
+    }
+
+    T.Overlay.modal: Rectangle {
+        color: Theme.scrim
+    }
+
+    enter: Transition {
+        NumberAnimation {
+            property: "opacity"
+            from: 0
+            to: 1
+            duration: Theme.durationShort
+        }
+        NumberAnimation {
+            property: "scale"
+            from: Theme.animated ? 0.96 : 1
+            to: 1
+            duration: Theme.durationShort
+            easing.type: Easing.OutCubic
+        }
+    }
+    exit: Transition {
+        NumberAnimation {
+            property: "opacity"
+            to: 0
+            duration: Theme.durationShort
+        }
+    }
+}

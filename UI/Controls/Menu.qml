@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import QtQuick.Window
+import Korvane.UI
+
+/// A menu of commands, for what lies under the pointer or below a button.
+T.Menu {
+    id: menu
+
+    implicitWidth: Math.max(180, implicitContentWidth + leftPadding + rightPadding)
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    margins: 8
+    padding: 5
+    overlap: 1
+    delegate: MenuItem { }
+
+    contentItem: ListView {
+        implicitHeight: contentHeight
+        implicitWidth: {
+            let widest = 0;
+            for (let row = 0; row < menu.count; ++row)
+                widest = Math.max(widest, menu.itemAt(row).implicitWidth);
+            return widest;
+        }
+        model: menu.contentModel
+        currentIndex: menu.currentIndex
+        interactive: Window.window ? contentHeight > Window.window.height : false
+        clip: true
+    }
+
+    background: Item {
+        SoftShadow {
+            anchors.fill: parent
+            anchors.margins: -12
+            anchors.bottomMargin: -16
+            radius: Theme.radius
+            blur: 12
+            color: Theme.shadow
+        }
+        Rectangle {
+            anchors.fill: parent
+            radius: Theme.radius
+            color: Theme.elevated
+            border.width: 1
+            border.color: Theme.controlBorder
+        }
+    }
+
+    enter: Transition {
+        NumberAnimation {
+            property: "opacity"
+            from: 0
+            to: 1
+            duration: Theme.durationShort
+        }
+    }
+}

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.UI
+
+/// A row of the sidebar: a tinted symbol and a title.
+T.AbstractButton {
+    id: row
+
+    required property string symbol
+    property color accent: Theme.blue
+    property bool selected: false
+
+    implicitWidth: 200
+    implicitHeight: 36
+    hoverEnabled: true
+    focusPolicy: Qt.StrongFocus
+    Keys.onReturnPressed: row.clicked()
+    Keys.onEnterPressed: row.clicked()
+    Accessible.role: Accessible.ListItem
+    Accessible.name: row.text
+    Accessible.selectable: true
+    Accessible.selected: row.selected
+
+    contentItem: Item {
+        Symbol {
+            x: row.mirrored ? parent.width - width - 10 : 10
+            anchors.verticalCenter: parent.verticalCenter
+            name: row.symbol
+            size: 20
+            color: row.accent
+        }
+        Label {
+            anchors.fill: parent
+            anchors.leftMargin: row.mirrored ? 10 : 40
+            anchors.rightMargin: row.mirrored ? 40 : 10
+            verticalAlignment: Text.AlignVCenter
+            text: row.text
+            font.weight: row.selected ? Font.DemiBold : Font.Medium
+            Accessible.ignored: true
+        }
+    }
+
+    background: Rectangle {
+        radius: Theme.radius
+        color: row.selected ? Theme.selectionFill : row.down ? Theme.pressedFill
+            : row.hovered ? Theme.hoverFill : "transparent"
+
+        FocusRing {
+            shown: row.visualFocus
+        }
+    }
+}

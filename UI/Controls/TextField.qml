@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.UI
+
+/// A line of text to be typed, with an optional symbol before it.
+T.TextField {
+    id: field
+
+    /// The name of the symbol inside the field; empty for none.
+    property string symbol: ""
+
+    implicitWidth: 220
+    implicitHeight: Theme.controlHeight
+    leftPadding: field.symbol === "" ? 10 : 32
+    rightPadding: 10
+    verticalAlignment: TextInput.AlignVCenter
+    font.family: Theme.fontFamily
+    font.pixelSize: Theme.body
+    color: Theme.label
+    placeholderTextColor: Theme.tertiaryLabel
+    selectionColor: Theme.prominentFill
+    selectedTextColor: Theme.onAccent
+    selectByMouse: true
+    opacity: field.enabled ? 1 : 0.45
+    Accessible.name: field.placeholderText
+
+    Text {
+        x: field.leftPadding
+        width: field.width - field.leftPadding - field.rightPadding
+        height: field.height
+        verticalAlignment: Text.AlignVCenter
+        visible: field.length === 0 && field.preeditText === ""
+        text: field.placeholderText
+        font: field.font
+        color: field.placeholderTextColor
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+    Symbol {
+        x: 10
+        anchors.verticalCenter: parent.verticalCenter
+        visible: field.symbol !== ""
+        name: field.symbol
+        size: 16
+        color: Theme.tertiaryLabel
+    }
+
+    background: Rectangle {
+        radius: Theme.radius
+        color: Theme.field
+        border.width: 1
+        border.color: field.hovered ? Theme.tertiaryLabel : Theme.controlBorder
+
+        FocusRing {
+            shown: field.activeFocus
+        }
+    }
+}

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.UI
+
+/// Shows a text beside its parent while the pointer rests there. Costs nothing until then.
+Item {
+    id: area
+
+    required property string text
+
+    anchors.fill: parent
+
+    HoverHandler {
+        id: hover
+    }
+    Timer {
+        id: rest
+
+        interval: 600
+        running: hover.hovered && area.text !== ""
+    }
+    Loader {
+        active: hover.hovered && !rest.running && area.text !== ""
+
+        sourceComponent: T.ToolTip {
+            id: tip
+
+            parent: area
+            visible: true
+            x: Math.max(0, hover.point.position.x)
+            y: area.height + 6
+            margins: 8
+            padding: 8
+            text: area.text
+            implicitWidth: Math.min(480, implicitContentWidth + 16)
+            implicitHeight: implicitContentHeight + 16
+            closePolicy: T.Popup.NoAutoClose
+
+            contentItem: Text {
+                text: tip.text
+                textFormat: Text.PlainText
+                font.family: Theme.fontFamily
+                font.pixelSize: Theme.caption
+                color: Theme.label
+                wrapMode: Text.Wrap
+            }
+            background: Rectangle {
+                radius: Theme.radiusSmall
+                color: Theme.elevated
+                border.width: 1
+                border.color: Theme.controlBorder
+            }
+        }
+    }
+}

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.UI
+
+/// The tabs of a settings window: a symbol over a text each, centred.
+T.TabBar {
+    id: bar
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: 72
+    spacing: Theme.spacingTiny
+    padding: Theme.spacing
+    Accessible.role: Accessible.PageTabList
+
+    contentItem: Item {
+        ListView {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(contentWidth, parent.width)
+            height: parent.height
+            model: bar.contentModel
+            currentIndex: bar.currentIndex
+            spacing: bar.spacing
+            orientation: ListView.Horizontal
+            interactive: false
+        }
+    }
+
+    background: Rectangle {
+        color: Theme.sidebar
+
+        Separator {
+            anchors.bottom: parent.bottom
+            width: parent.width
+        }
+    }
+}
