@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Platform/FileManager.h"
+
+#include "Platform/DisplayText.h"
+#include "Platform/FileError.h"
+#include "Platform/Files/FolderListing.h"
+#include "Platform/Files/HostPlaces.h"
+#include "Platform/Files/ItemPlace.h"
+#include "Platform/Files/ProtectedPlaces.h"
+#include "Platform/Files/Removal.h"
+#include "Platform/Files/Trash.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Korvane {
+namespace {
+
+/// The file manager on the real disk; what differs between the hosts lies in Platform/Files.
+class DiskFileManager final : public FileManager {
+public:
+    explicit DiskFileManager(Environment environment)
+        : m_environment(std::move(environment))
+    {
+    }
+
+    std::filesystem::path homeDirectoryForCurrentUser() const override { return m_environment.home; }
+    std::filesystem::path temporaryDirectory() const override { return m_environment.temporaryDirectory; }
+
+    std::vector<std::filesystem::path> additionalCacheDirectories() const override
+    {
+        return hostCacheDirectories(m_environment);
+    }
+
+    std::vector<std::filesystem::path> additionalTrashDirectories() const override
+    {
+        return hostTrashDirectories(m_environment);
+    }
+
+    bool fileExists(const std::filesystem::path& path) const override { return isAnythingAt(path); }
+
+    std::vector<std::filesystem::path> contentsOfDirectory(
+        const std::filesystem::path& folder, HiddenFiles hidden) const override
+    {
+        return childrenOf(folder, hidden);
+    }
+
+    void removeItem(const std::filesystem::path& path) override
+    {
+        const ItemPlace item = findRemovable(path);
+        if (const auto failure = removeForGood(item))
+            throw FileError(*failure);
+    }
+
+    std::filesystem::path trashItem(const std::filesystem::path& path) override
+    {
+        return moveToHostTrash(findRemovable(path), m_environment);
+    }
+
+    void emptyTrash(const std::filesystem::path& trash) override
+    {
+        const auto others = hostTrashDirectories(m_environment);
+        if (trash == m_environment.home / ".Trash")
+            emptyFolder(trash, ProtectedPlaces(m_environment.home));
+        else if (std::find(others.begin(), others.end(), trash) != others.end())
+            emptyHostTrash(trash, ProtectedPlaces(m_environment.home));
+        else
+            throw FileError(trash, std::make_error_code(std::errc::invalid_argument),
+                "“" + displayText(trash) + "” is not a Trash of this user.");
+    }
+
+private:
+    ItemPlace findRemovable(const std::filesystem::path& path) const
+    {
+        // A home folder is refused by its name even when it is not there.
+        const ProtectedPlaces protectedPlaces(m_environment.home);
+        ItemPlace item = findItem(path);
+        protectedPlaces.check(item);
+        return item;
+    }
+
+    const Environment m_environment;
+};
+
+} // namespace
+
+std::shared_ptr<FileManager> makeFileManager(const Environment& environment)
+{
+    return std::make_shared<DiskFileManager>(environment);
+}
+
+} // namespace Korvane

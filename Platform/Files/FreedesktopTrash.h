@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "Platform/Environment.h"
+#include "Platform/FileDescriptor.h"
+#include "Platform/Files/ItemPlace.h"
+
+#include <filesystem>
+#include <string>
+
+namespace Korvane {
+
+/// One folder of the freedesktop.org Trash, version 1.0, open for moving things into it.
+struct FreedesktopTrash {
+    std::filesystem::path path;
+    FileDescriptor folder;
+    FileDescriptor files;
+    FileDescriptor info;
+    std::string recordedPath; ///< What the record of the item says it was, for this folder.
+};
+
+/// Whether the item is on the same file system and mount as the Trash of the home folder is, or would be.
+bool isOnVolumeOfHomeTrash(const ItemPlace& item, const Environment& environment);
+
+/// The Trash of the home folder, made when it is not there. Throws FileError, also when the item holds it.
+FreedesktopTrash openHomeTrash(const ItemPlace& item, const Environment& environment);
+
+/// The Trash at the top of the volume that the item is on: ".Trash/$uid" where an administrator prepared ".Trash",
+/// else ".Trash-$uid", made when it is not there. Throws FileError, also when it is not this user's own.
+FreedesktopTrash openVolumeTrash(const ItemPlace& item);
+
+} // namespace Korvane

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "Platform/Environment.h"
+#include "Platform/Files/ItemPlace.h"
+#include "Platform/Files/ProtectedPlaces.h"
+
+#include <filesystem>
+#include <vector>
+
+namespace Korvane {
+
+/// Trash folders that this host keeps besides ".Trash" in the home folder.
+std::vector<std::filesystem::path> hostTrashDirectories(const Environment& environment);
+
+/// Moves the item to the host's Trash and returns where it lies now; throws FileError and leaves it where it was.
+std::filesystem::path moveToHostTrash(const ItemPlace& item, const Environment& environment);
+
+/// Empties one of hostTrashDirectories(); throws the first FileError.
+void emptyHostTrash(const std::filesystem::path& trash, const ProtectedPlaces& protectedPlaces);
+
+/// Deletes what lies directly in a folder, in the order of the file system; throws the first FileError.
+/// A folder that cannot be listed counts as empty; a link in its place is an error.
+void emptyFolder(const std::filesystem::path& folder, const ProtectedPlaces& protectedPlaces);
+
+} // namespace Korvane

@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Platform/DisplayText.h"
+#include "Platform/FileError.h"
+#include "Platform/Files/CarefulRename.h"
+#include "Platform/Files/FreedesktopTrash.h"
+#include "Platform/Files/Trash.h"
+#include "Platform/Files/TrashInfo.h"
+#include "Platform/Files/TrashRecord.h"
+
+#include <climits>
+#include <ctime>
+#include <random>
+#include <unistd.h>
+
+namespace Korvane {
+namespace {
+
+/// Names tried in turn ("name", "name.2", "name.3" ...), and after them names with a random number.
+constexpr unsigned namesInTurn = 32;
+constexpr unsigned randomNames = 64;
+
+/// How long a name may be so that its record's name still fits the file system of `folder`.
+std::size_t longestName(int folder)
+{
+    constexpr std::size_t ending = sizeof ".trashinfo" - 1;
+    const long limit = fpathconf(folder, _PC_NAME_MAX);
+    return (limit > 64 ? static_cast<std::size_t>(limit) : std::size_t{ NAME_MAX }) - ending;
+}
+
+std::string candidate(const std::string& name, unsigned attempt, std::size_t limit)
+{
+    std::string ending;
+    if (attempt >= namesInTurn) {
+        static thread_local std::random_device random;
+        ending = "." + std::to_string(random());
+    } else if (attempt > 0) {
+        ending = "." + std::to_string(attempt + 1);
+    }
+    return shortenedName(name, limit - ending.size()) + ending;
+}
+
+/// Makes sure that an item in the Trash has its record, which somebody who emptied the Trash may just have removed.
+int keepRecord(const ItemPlace& item, const FreedesktopTrash& trash, TrashRecord& record, const std::string& text)
+{
+    if (!record.isGone() || !isItemAt(item, trash.files.get(), record.name()))
+        return 0;
+    const int error = record.write(text);
+    if (error == 0 || !isItemAt(item, trash.files.get(), record.name()))
+        return 0;
+    ItemPlace inTrash;
+    inTrash.name = record.name();
+    inTrash.status = item.status;
+    inTrash.parent = FileDescriptor(dup(trash.files.get()));
+    return renameCarefully(inTrash, item.parent.get(), item.name) == 0 ? error : 0;
+}
+
+int moveAs(const ItemPlace& item, const FreedesktopTrash& trash, TrashRecord& record, const std::string& text)
+{
+    if (const int error = record.write(text))
+        return error;
+    if (const int error = renameCarefully(item, trash.files.get(), record.name())) {
+        record.takeBack();
+        return error;
+    }
+    return keepRecord(item, trash, record, text);
+}
+
+std::filesystem::path moveInto(const FreedesktopTrash& trash, const ItemPlace& item)
+{
+    const std::string text = trashInfoText(trash.recordedPath, std::time(nullptr));
+    const std::size_t limit = longestName(trash.info.get());
+    int error = EEXIST;
+    for (unsigned attempt = 0; error == EEXIST && attempt < namesInTurn + randomNames; ++attempt) {
+        TrashRecord record(trash.info.get(), candidate(item.name, attempt, limit));
+        error = moveAs(item, trash, record, text);
+        if (error == 0)
+            return trash.path / "files" / record.name();
+    }
+    throw FileError(item.path, std::error_code(error, std::system_category()));
+}
+
+} // namespace
+
+std::vector<std::filesystem::path> hostTrashDirectories(const Environment& environment)
+{
+    return { environment.dataHome() / "Trash" };
+}
+
+std::filesystem::path moveToHostTrash(const ItemPlace& item, const Environment& environment)
+{
+    if (isOnVolumeOfHomeTrash(item, environment)) {
+        try {
+            return moveInto(openHomeTrash(item, environment), item);
+        } catch (const FileError& error) {
+            // Within one file system there are borders as well, which only the attempt to cross them shows.
+            if (error.code().value() != EXDEV)
+                throw;
+        }
+    }
+    return moveInto(openVolumeTrash(item), item);
+}
+
+} // namespace Korvane
