@@ -5,6 +5,7 @@
 
 #include "Platform/DisplayText.h"
 #include "Platform/FileDescriptor.h"
+#include "Platform/SmallFile.h"
 
 #include <cerrno>
 #include <chrono>
@@ -31,29 +32,6 @@ struct Contents {
     Condition condition = Condition::Missing;
     PreferencesFile::Values values;
 };
-
-std::optional<std::string> wholeFile(const FileDescriptor& file)
-{
-    struct stat status { };
-    if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
-        return std::nullopt;
-    std::string text(largestFile + 1, '\0');
-    std::size_t length = 0;
-    while (length < text.size()) {
-        const auto count = ::read(file.get(), text.data() + length, text.size() - length);
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return std::nullopt;
-        if (count == 0)
-            break;
-        length += static_cast<std::size_t>(count);
-    }
-    if (length > largestFile)
-        return std::nullopt;
-    text.resize(length);
-    return text;
-}
 
 bool addLine(std::string_view line, PreferencesFile::Values& values)
 {
@@ -85,12 +63,9 @@ Contents parsed(std::string_view text)
 
 Contents contentsOf(const std::filesystem::path& path)
 {
-    // Without O_NONBLOCK a named pipe in the file's place would hold the program up for good.
-    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    if (!file)
-        return { errno == ENOENT || errno == ENOTDIR ? Condition::Missing : Condition::Damaged, {} };
-    const auto text = wholeFile(file);
-    return text ? parsed(*text) : Contents{ Condition::Damaged, {} };
+    if (const auto text = contentsOfSmallFile(path, largestFile))
+        return parsed(*text);
+    return { errno == ENOENT || errno == ENOTDIR ? Condition::Missing : Condition::Damaged, {} };
 }
 
 std::string textOf(const PreferencesFile::Values& values)
