@@ -29,21 +29,48 @@ endif()
 # korvane_add_test(NAME SOURCES file... LIBRARIES target... [QT])
 #
 # One test program, one line at the call. GoogleTest programs register each test; with QT the
-# program is a Qt Test of its own and runs as one.
+# program is a Qt Test of its own and runs as one: without a display, and, where the system has one
+# to lend, once more in real windows. Each is labelled by its folder of Tests, which also has a
+# target "tests-FOLDER" that builds what is in it.
 function(korvane_add_test name)
     cmake_parse_arguments(ARG "QT" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE KorvaneOptions ${ARG_LIBRARIES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    korvane_test_label(${name} label)
     if(ARG_QT)
         find_package(Qt6 REQUIRED COMPONENTS Test)
         target_link_libraries(${name} PRIVATE Qt6::Test)
         set_target_properties(${name} PROPERTIES AUTOMOC ON)
         add_test(NAME ${name} COMMAND ${name})
-        set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+        set_tests_properties(${name} PROPERTIES
+            LABELS ${label} ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+        korvane_add_display_test(${name} ${label})
     else()
         target_link_libraries(${name} PRIVATE GTest::gmock GTest::gtest_main)
         gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
-            PROPERTIES ENVIRONMENT "LC_ALL=C.UTF-8")
+            PROPERTIES LABELS ${label} ENVIRONMENT "LC_ALL=C.UTF-8")
     endif()
+endfunction()
+
+# The folder of Tests that a test is declared in, and its target "tests-FOLDER".
+function(korvane_test_label name result)
+    file(RELATIVE_PATH folder ${CMAKE_SOURCE_DIR}/Tests ${CMAKE_CURRENT_SOURCE_DIR})
+    string(REGEX REPLACE "/.*" "" label "${folder}")
+    if(NOT TARGET tests-${label})
+        add_custom_target(tests-${label})
+    endif()
+    add_dependencies(tests-${label} ${name})
+    set(${result} ${label} PARENT_SCOPE)
+endfunction()
+
+# The same Qt Test once more, on a virtual X display with a window manager.
+function(korvane_add_display_test name label)
+    find_program(KORVANE_XVFB_RUN xvfb-run)
+    if(APPLE OR NOT KORVANE_XVFB_RUN)
+        return()
+    endif()
+    add_test(NAME ${name}.display COMMAND ${CMAKE_SOURCE_DIR}/scripts/with-display $<TARGET_FILE:${name}>)
+    set_tests_properties(${name}.display PROPERTIES
+        LABELS ${label} ENVIRONMENT "QT_QPA_PLATFORM=xcb;LC_ALL=C.UTF-8")
 endfunction()
