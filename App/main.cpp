@@ -1,25 +1,45 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+/// The composition root: builds everything once, top to bottom, and runs it.
+///
+/// The source tree, from the ground up; each folder knows only those above it in this list:
+///
+///   Platform/          what the machine gives: files, walks, Trash, preferences, running applications, formats
+///   Core/              the rules, without Qt: Modules, FullDiskAccess
+///     Scanning/          what is found: the scan model and the scanners
+///     Cleaning/          how it is removed
+///   UI/                the screens, each a QML file and the view model that bears its name; Theme
+///     Content/           the parts of the main window
+///     Controls/          the look of a button, a switch, a card
+///     Dashboard/         the parts of the home screen
+///     Scan/              the parts of the scan screen
+///     Settings/          the parts of the settings window
+///     Symbols/           one family of drawings, and what tints them
+///   CLI/               the same engine for a terminal
+///   App/               this file; KorvaneApp with its windows, AppState, TrayIcon
+
+#include "App/KorvaneApp.h"
+#include "App/TerminationSignals.h"
+#include "Platform/Environment.h"
+#include "Platform/Host.h"
 #include "UI/Appearance.h"
 
 #include <QApplication>
-#include <QQmlApplicationEngine>
 #include <QQuickWindow>
 
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Korvane"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Korvane"));
     QApplication::setApplicationVersion(QStringLiteral(KORVANE_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.korvane.Korvane"));
-    Korvane::Appearance::applyFont();
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
+    Korvane::Appearance::applyFont();
+    const Korvane::TerminationSignals terminationSignals;
 
-    QQmlApplicationEngine engine;
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Korvane/UI/ContentView.qml")));
-    if (engine.rootObjects().isEmpty())
-        return 1;
-    return QApplication::exec();
+    const Korvane::Host host = Korvane::makeHost(Korvane::Environment::current());
+    Korvane::KorvaneApp korvane(host);
+    return korvane.start() ? QApplication::exec() : EXIT_FAILURE;
 }

@@ -37,10 +37,7 @@ bool Appearance::reducedMotion() const { return m_reducedMotion.value_or(m_deskt
 
 bool Appearance::highContrast() const { return m_highContrast.value_or(m_desktop->highContrast()); }
 
-QString Appearance::fontFamily() const
-{
-    return QGuiApplication::font().family();
-}
+QString Appearance::fontFamily() const { return QGuiApplication::font().family(); }
 
 void Appearance::setDark(std::optional<bool> dark)
 {

@@ -50,7 +50,7 @@ QtObject {
     readonly property color controlFill: dark ? "#1fffffff" : "#ffffff"
     readonly property color hoverFill: dark ? "#14ffffff" : "#0d000000"
     readonly property color pressedFill: dark ? "#24ffffff" : "#1a000000"
-    readonly property color selectionFill: dark ? "#2effffff" : "#1f000000"
+    readonly property color selectionFill: dark ? "#2effffff" : "#1a000000"
     readonly property color trackFill: dark ? "#26ffffff" : "#1a000000"
     readonly property color focusRing: Qt.alpha(blue, dark ? 0.75 : 0.6)
     readonly property color cardBorder: dark ? "#1affffff" : "#12000000"
@@ -70,6 +70,24 @@ QtObject {
     /// From the colour to the same colour at 55 percent.
     function accentGradient(colour: color): var {
         return [colour, Qt.alpha(colour, 0.55)];
+    }
+
+    /// The colour that a module is shown in.
+    function accent(accent: int): color {
+        switch (accent) {
+        case ModuleViewModel.Cyan:
+            return cyan;
+        case ModuleViewModel.Orange:
+            return orange;
+        case ModuleViewModel.Red:
+            return red;
+        case ModuleViewModel.Green:
+            return green;
+        case ModuleViewModel.Purple:
+            return purple;
+        default:
+            return blue;
+        }
     }
 
     // Type, sizes in pixels.

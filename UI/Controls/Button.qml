@@ -24,7 +24,7 @@ T.Button {
     property string symbol: ""
 
     readonly property bool filled: button.kind === Button.Prominent || button.kind === Button.Destructive
-    readonly property color ink: button.filled ? Theme.onAccent
+    property color ink: button.filled ? Theme.onAccent
         : button.kind === Button.Borderless ? Theme.linkLabel : Theme.label
     readonly property color fill: {
         switch (button.kind) {

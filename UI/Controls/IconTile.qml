@@ -25,7 +25,6 @@ Item {
     // White stays readable where the gradient thins out.
     Rectangle {
         anchors.fill: fill
-        anchors.margins: 0.5
         radius: tile.radius
         color: Theme.dark ? "#3a3a40" : Qt.darker(tile.accent, 1.4)
     }

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QCoreApplication>
+#include <QFuture>
+#include <QPointer>
+#include <QThreadPool>
+#include <QtConcurrentRun>
+
+#include <memory>
+#include <type_traits>
+#include <utility>
+
+namespace Korvane {
+
+/// Runs `work()` on the shared thread pool and hands its value to `done` on the main thread.
+///
+/// Main thread. `done` is called at most once, and not at all when `receiver` is gone by then. `work` must not throw:
+/// it turns what went wrong into a value. The program does not end before `work` has (the pool is waited for when the
+/// application object goes), so that nothing is ever killed half done.
+template <typename Work, typename Done> void runInBackground(QObject* receiver, Work work, Done done)
+{
+    // The receiver itself cannot be the continuation's context: on Qt 6.4 a context that is destroyed before the work
+    // ends is asserted on, and used, from the worker's thread. The application object outlives every worker.
+    QtConcurrent::run(std::move(work))
+        .then(QCoreApplication::instance(),
+            [guard = QPointer<QObject>(receiver), done = std::move(done)](std::invoke_result_t<Work> value) mutable {
+                if (guard)
+                    done(std::move(value));
+            });
+}
+
+/// Lets go of a large value away from the main thread; it is freed there if nobody else holds it.
+template <typename Value> void releaseInBackground(std::shared_ptr<Value> value)
+{
+    QThreadPool::globalInstance()->start([value = std::move(value)] {});
+}
+
+} // namespace Korvane

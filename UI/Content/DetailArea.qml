@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Korvane.UI
+
+/// The banner, and below it the screen of what is selected in the sidebar.
+Item {
+    id: detail
+
+    required property ContentViewModel viewModel
+
+    FullDiskAccessBanner {
+        id: banner
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        viewModel: detail.viewModel.access
+    }
+    FocusScope {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: banner.bottom
+        anchors.bottom: parent.bottom
+        clip: true
+
+        DashboardView {
+            anchors.fill: parent
+            visible: detail.viewModel.selectedModule === null
+            viewModel: detail.viewModel.dashboard
+        }
+        Loader {
+            anchors.fill: parent
+            active: detail.viewModel.selectedModule !== null
+            visible: active
+            sourceComponent: ModuleOverview {
+                module: detail.viewModel.selectedModule
+            }
+        }
+    }
+}

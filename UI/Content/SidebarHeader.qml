@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Korvane.UI
+
+/// The application's name, and, where the platform has no menu bar of its own, the application menu.
+Item {
+    id: header
+
+    signal settingsRequested
+
+    implicitHeight: 36
+
+    IconTile {
+        id: mark
+
+        x: 8
+        anchors.verticalCenter: parent.verticalCenter
+        size: 28
+        symbol: "sparkles"
+        gradient: Theme.heroGradient
+    }
+    Label {
+        anchors.left: mark.right
+        anchors.leftMargin: 10
+        anchors.verticalCenter: parent.verticalCenter
+        style: Label.Title2
+        text: qsTr("Korvane")
+    }
+    Button {
+        id: menuButton
+
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        visible: Qt.platform.os !== "osx"
+        kind: Button.Borderless
+        ink: Theme.secondaryLabel
+        symbol: "ellipsis"
+        Accessible.name: qsTr("Application menu")
+        onClicked: menu.popup(menuButton, 0, menuButton.height + 4)
+
+        Menu {
+            id: menu
+
+            MenuItem {
+                text: qsTr("Settings…")
+                symbol: "gearshape"
+                keys: qsTr("Ctrl+,")
+                onTriggered: header.settingsRequested()
+            }
+            MenuSeparator { }
+            MenuItem {
+                text: qsTr("Quit Korvane")
+                symbol: "power"
+                keys: qsTr("Ctrl+Q")
+                onTriggered: Qt.quit()
+            }
+        }
+    }
+}

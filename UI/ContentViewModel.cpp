@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "UI/ContentViewModel.h"
+
+#include "Platform/VolumeCapacity.h"
+
+namespace Korvane {
+
+namespace {
+
+QList<ModuleViewModel*> makeModules(QObject* owner)
+{
+    QList<ModuleViewModel*> modules;
+    for (const CleanerModule module : allCleanerModules)
+        modules.append(new ModuleViewModel(module, owner));
+    return modules;
+}
+
+std::optional<VolumeCapacity> startupDisk() { return volumeCapacity("/"); }
+
+} // namespace
+
+ContentViewModel::ContentViewModel(const Host& host, Navigation& navigation, QObject* parent)
+    : QObject(parent)
+    , m_navigation(navigation)
+    , m_modules(makeModules(this))
+    , m_cleanup(modules({ CleanerModule::systemJunk, CleanerModule::largeFiles, CleanerModule::duplicates,
+          CleanerModule::uninstaller }))
+    , m_speed(modules({ CleanerModule::maintenance }))
+    , m_devices(modules({ CleanerModule::iosDevice }))
+    , m_dashboard(m_modules, navigation, startupDisk)
+    , m_access(host)
+    , m_settings(host.defaults, m_access)
+{
+    connect(&navigation, &Navigation::selectedModuleChanged, this, &ContentViewModel::selectedModuleChanged);
+}
+
+ModuleViewModel* ContentViewModel::moduleViewModel(CleanerModule module) const
+{
+    return m_modules.at(static_cast<qsizetype>(module));
+}
+
+QList<ModuleViewModel*> ContentViewModel::modules(std::initializer_list<CleanerModule> modules) const
+{
+    QList<ModuleViewModel*> viewModels;
+    for (const CleanerModule module : modules)
+        viewModels.append(moduleViewModel(module));
+    return viewModels;
+}
+
+QQmlListProperty<ModuleViewModel> ContentViewModel::cleanup() { return { this, &m_cleanup }; }
+
+QQmlListProperty<ModuleViewModel> ContentViewModel::speed() { return { this, &m_speed }; }
+
+QQmlListProperty<ModuleViewModel> ContentViewModel::devices() { return { this, &m_devices }; }
+
+ModuleViewModel* ContentViewModel::selectedModule() const
+{
+    const std::optional<CleanerModule> selected = m_navigation.selectedModule();
+    return selected ? moduleViewModel(*selected) : nullptr;
+}
+
+void ContentViewModel::setSelectedModule(ModuleViewModel* module)
+{
+    m_navigation.setSelectedModule(module ? std::optional(module->module()) : std::nullopt);
+}
+
+} // namespace Korvane

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "Platform/Host.h"
+#include "UI/DashboardViewModel.h"
+#include "UI/FullDiskAccessViewModel.h"
+#include "UI/ModuleViewModel.h"
+#include "UI/Navigation.h"
+#include "UI/SettingsViewModel.h"
+
+#include <QList>
+#include <QObject>
+#include <QQmlEngine>
+#include <QQmlListProperty>
+
+namespace Korvane {
+
+/// The main window: the modules in its sidebar, which of them is shown, and the view models of its screens.
+///
+/// Main thread. Owns the view models that it hands out.
+class ContentViewModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the application")
+    /// The three sections of the sidebar.
+    Q_PROPERTY(QQmlListProperty<Korvane::ModuleViewModel> cleanup READ cleanup CONSTANT FINAL)
+    Q_PROPERTY(QQmlListProperty<Korvane::ModuleViewModel> speed READ speed CONSTANT FINAL)
+    Q_PROPERTY(QQmlListProperty<Korvane::ModuleViewModel> devices READ devices CONSTANT FINAL)
+    /// The module that the detail area shows; null for the dashboard.
+    Q_PROPERTY(Korvane::ModuleViewModel* selectedModule READ selectedModule WRITE setSelectedModule NOTIFY
+            selectedModuleChanged FINAL)
+    Q_PROPERTY(Korvane::DashboardViewModel* dashboard READ dashboard CONSTANT FINAL)
+    Q_PROPERTY(Korvane::FullDiskAccessViewModel* access READ access CONSTANT FINAL)
+    Q_PROPERTY(Korvane::SettingsViewModel* settings READ settings CONSTANT FINAL)
+
+public:
+    /// `navigation` must outlive the view model.
+    ContentViewModel(const Host& host, Navigation& navigation, QObject* parent = nullptr);
+
+    QQmlListProperty<ModuleViewModel> cleanup();
+    QQmlListProperty<ModuleViewModel> speed();
+    QQmlListProperty<ModuleViewModel> devices();
+    ModuleViewModel* selectedModule() const;
+    void setSelectedModule(ModuleViewModel* module);
+    DashboardViewModel* dashboard() { return &m_dashboard; }
+    FullDiskAccessViewModel* access() { return &m_access; }
+    SettingsViewModel* settings() { return &m_settings; }
+
+    /// The view model of a module, which every list shares.
+    ModuleViewModel* moduleViewModel(CleanerModule module) const;
+
+Q_SIGNALS:
+    void selectedModuleChanged();
+    /// The main window is to open the settings window.
+    void settingsRequested();
+
+private:
+    QList<ModuleViewModel*> modules(std::initializer_list<CleanerModule> modules) const;
+
+    Navigation& m_navigation;
+    QList<ModuleViewModel*> m_modules; ///< In declaration order.
+    QList<ModuleViewModel*> m_cleanup;
+    QList<ModuleViewModel*> m_speed;
+    QList<ModuleViewModel*> m_devices;
+    DashboardViewModel m_dashboard;
+    FullDiskAccessViewModel m_access;
+    SettingsViewModel m_settings;
+};
+
+} // namespace Korvane

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.UI
+
+/// One module as a card; a click anywhere on it opens the module.
+T.AbstractButton {
+    id: card
+
+    required property ModuleViewModel module
+
+    implicitHeight: 172
+    padding: 20
+    hoverEnabled: true
+    focusPolicy: Qt.StrongFocus
+    text: card.module.title
+    scale: card.hovered && Theme.animated ? 1.02 : 1
+    Keys.onReturnPressed: card.clicked()
+    Keys.onEnterPressed: card.clicked()
+    Accessible.name: card.module.title
+    Accessible.description: card.module.subtitle
+
+    Behavior on scale {
+        NumberAnimation {
+            duration: Theme.durationShort
+            easing.type: Easing.OutCubic
+        }
+    }
+
+    contentItem: Column {
+        IconTile {
+            size: 60
+            symbol: card.module.symbol
+            accent: Theme.accent(card.module.accent)
+        }
+        Label {
+            topPadding: Theme.spacingMedium
+            width: parent.width
+            style: Label.Title3
+            font.weight: Font.DemiBold
+            text: card.module.title
+            Accessible.ignored: true
+        }
+        Label {
+            topPadding: Theme.spacingTiny
+            width: parent.width
+            style: Label.Callout
+            color: Theme.secondaryLabel
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            text: card.module.subtitle
+            Accessible.ignored: true
+        }
+    }
+
+    background: Card {
+        Rectangle {
+            anchors.fill: parent
+            radius: Theme.radiusCard
+            color: card.down ? Theme.pressedFill : Theme.hoverFill
+            visible: card.down || card.hovered
+        }
+        FocusRing {
+            shown: card.visualFocus
+            around: Theme.radiusCard
+        }
+    }
+}

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.UI
+
+/// The home screen: a greeting, how full the startup disk is, and a card for each module.
+Flickable {
+    id: screen
+
+    required property DashboardViewModel viewModel
+
+    readonly property real pageWidth: Math.min(screen.width - 2 * Theme.pageMargin, 1120)
+
+    contentWidth: width
+    contentHeight: page.implicitHeight + 2 * Theme.spacingHuge
+    boundsBehavior: Flickable.StopAtBounds
+    Accessible.role: Accessible.Pane
+    Accessible.name: qsTr("Dashboard")
+    T.ScrollBar.vertical: ScrollBar { }
+
+    Column {
+        id: page
+
+        x: (screen.width - width) / 2
+        y: Theme.spacingHuge
+        width: screen.pageWidth
+        spacing: Theme.spacingHuge - 4
+
+        DashboardHeader {
+            width: parent.width
+        }
+        StorageOverviewCard {
+            width: parent.width
+            viewModel: screen.viewModel
+            shown: screen.visible
+        }
+        ModuleGrid {
+            width: parent.width
+            viewModel: screen.viewModel
+        }
+    }
+}

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Window
+import Korvane.UI
+
+/// The settings window: the preferences, and what this application is.
+Window {
+    id: window
+
+    required property SettingsViewModel viewModel
+
+    title: qsTr("Settings")
+    width: 520
+    height: 400
+    minimumWidth: width
+    maximumWidth: width
+    minimumHeight: height
+    maximumHeight: height
+    flags: Qt.Dialog
+    color: Theme.window
+
+    Shortcut {
+        sequences: ["Ctrl+W", "Escape"]
+        onActivated: window.close()
+    }
+    ToolbarTabs {
+        id: tabs
+
+        width: parent.width
+
+        ToolbarTab {
+            symbol: "gearshape"
+            text: qsTr("General")
+        }
+        ToolbarTab {
+            symbol: "info.circle"
+            text: qsTr("About")
+        }
+    }
+    StackLayout {
+        anchors.fill: parent
+        anchors.topMargin: tabs.height
+        currentIndex: tabs.currentIndex
+
+        GeneralSettingsView {
+            viewModel: window.viewModel
+            shown: window.visible && tabs.currentIndex === 0
+        }
+        AboutSettingsView {
+            viewModel: window.viewModel
+        }
+    }
+}
