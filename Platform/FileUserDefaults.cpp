@@ -6,12 +6,15 @@
 #include "Platform/ObserverList.h"
 #include "Platform/PreferencesFile.h"
 
+#include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QFileSystemWatcher>
-#include <QtCore/QLocale>
-#include <QtCore/QString>
 
+#include <iomanip>
+#include <limits>
+#include <locale>
+#include <sstream>
 #include <utility>
 
 namespace Korvane {
@@ -50,12 +53,16 @@ public:
     bool setInteger(std::string_view key, std::int64_t value) override { return store(key, std::to_string(value)); }
     bool setDouble(std::string_view key, double value) override
     {
-        return store(key, QString::number(value, 'g', QLocale::FloatingPointShortest).toStdString());
+        std::ostringstream text;
+        text.imbue(std::locale::classic());
+        text << std::setprecision(std::numeric_limits<double>::max_digits10) << value;
+        return store(key, text.str());
     }
 
     std::unique_ptr<Observation> observe(std::function<void(std::string_view key)> changed) override
     {
-        watchFile();
+        if (QCoreApplication::instance() != nullptr && m_file.makeFolder())
+            watchFile();
         return m_observers.add(std::move(changed));
     }
 
@@ -68,6 +75,8 @@ private:
 
     bool store(std::string_view key, std::string value)
     {
+        if (!PreferencesFile::isKey(key))
+            return false;
         m_unsaved[std::string(key)] = std::move(value);
         auto saved = m_file.merge(m_unsaved);
         if (!saved) {
@@ -76,6 +85,8 @@ private:
         }
         m_unsaved.clear();
         takeOver(std::move(*saved));
+        if (m_watcher != nullptr)
+            watchFile();
         return true;
     }
 
@@ -98,8 +109,6 @@ private:
 
     void watchFile()
     {
-        if (QCoreApplication::instance() == nullptr || !m_file.makeFolder())
-            return;
         if (m_watcher == nullptr) {
             m_watcher = std::make_unique<QFileSystemWatcher>();
             const auto readAgain = [this] {

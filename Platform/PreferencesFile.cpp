@@ -129,6 +129,13 @@ bool makePrivateFolders(const std::filesystem::path& folder)
 
 } // namespace
 
+bool PreferencesFile::isKey(std::string_view key)
+{
+    return !key.empty() && isValidUtf8(key) && key.find_first_of("=\r\n") == std::string_view::npos
+        && key.find('\0') == std::string_view::npos
+        && std::string_view("#;[").find(key.front()) == std::string_view::npos;
+}
+
 PreferencesFile::Values PreferencesFile::read() const { return contentsOf(m_path).values; }
 
 bool PreferencesFile::makeFolder() const { return makePrivateFolders(m_path.parent_path()); }

@@ -7,6 +7,8 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace Korvane {
 
@@ -24,6 +26,9 @@ public:
     }
 
     const std::filesystem::path& path() const { return m_path; }
+
+    /// Whether a value can be kept under this key: UTF-8 on one line, without "=", and no beginning of a comment.
+    static bool isKey(std::string_view key);
 
     /// What the file holds: nothing when it is missing, cannot be read, or is no such text throughout.
     Values read() const;
