@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "Core/Modules.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Korvane {
+
+/// What one start of korvane-cli is asked to do.
+struct CommandLine {
+    enum class Command { Help, Version, Modules, Scan, Clean };
+    enum class Format { Text, Json };
+    /// Which findings are cleaned: those that a scan ticks by itself, all, or those named.
+    enum class Selection { Preselected, All, Named };
+    enum class Removal { MoveToTrash, Delete };
+    /// Whether cleaning happens, or is only described.
+    enum class Confirmation { Missing, Given };
+
+    Command command = Command::Help;
+    CleanerModule module = CleanerModule::systemJunk; ///< Of Scan and Clean.
+    Format format = Format::Text;
+    Selection selection = Selection::Preselected;
+    std::vector<std::filesystem::path> namedItems; ///< Any bytes, as given.
+    Removal removal = Removal::MoveToTrash;
+    Confirmation confirmation = Confirmation::Missing;
+
+    /// Reads the arguments behind the program's name. Throws UsageError.
+    static CommandLine parse(const std::vector<std::string>& arguments);
+};
+
+/// The summary that --help prints.
+std::string_view usageText();
+
+/// Whether the module is one that the command line can scan and clean.
+bool isScannable(CleanerModule module);
+
+/// The raw values of the modules that can be scanned, separated by ", ".
+std::string scannableModules();
+
+} // namespace Korvane

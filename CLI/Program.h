@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "CLI/CommandLine.h"
+#include "CLI/ExitStatus.h"
+#include "Core/Cleaning/Cleaner.h"
+#include "Core/Scanning/ScanItem.h"
+#include "Platform/Cancellation.h"
+#include "Platform/Host.h"
+
+#include <string>
+#include <vector>
+
+namespace Korvane {
+
+/// Carries out command lines on a host.
+class Program {
+public:
+    Program(Host host, Cancellation cancellation);
+
+    /// Does what the arguments behind the program's name ask for; complaints go to standard error. Never throws.
+    ExitStatus run(const std::vector<std::string>& arguments) noexcept;
+
+private:
+    ExitStatus runCommand(const CommandLine& line);
+    ExitStatus clean(const CommandLine& line);
+
+    std::vector<ScanItem> scan(CleanerModule module) const;
+    std::vector<ScanItem> chosen(const CommandLine& line) const;
+    Cleaner::Result cleanEach(const std::vector<ScanItem>& items, CommandLine::Removal removal);
+
+    void print(const std::string& text) const;
+
+    Host m_host;
+    Cancellation m_cancellation;
+};
+
+} // namespace Korvane
