@@ -3,6 +3,7 @@
 
 #include "Core/Scanning/DuplicatesScanner.h"
 
+#include "Core/Scanning/DuplicateCandidate.h"
 #include "Core/Scanning/FormattedBytes.h"
 #include "Core/Scanning/HomeWalk.h"
 #include "Core/Scanning/LastPathComponent.h"
@@ -11,7 +12,6 @@
 #include "Platform/FileDigest.h"
 
 #include <algorithm>
-#include <chrono>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -20,14 +20,7 @@ namespace Korvane {
 
 namespace {
 
-using Timestamp = std::chrono::sys_time<std::chrono::nanoseconds>;
-
-/// One file under consideration.
-struct Candidate {
-    std::filesystem::path url;
-    std::int64_t size;
-    Timestamp modified;
-};
+using Candidate = DuplicateCandidate;
 
 /// Files that lie side by side in the list of candidates and have the same size.
 struct SizeGroup {
@@ -45,8 +38,7 @@ std::vector<Candidate> candidates(const DuplicatesScanner& scanner, const std::f
     while (const auto* file = walk.nextFile()) {
         const auto& values = file->values();
         if (values.fileSize && *values.fileSize >= scanner.minimumFileSize)
-            found.push_back(
-                { file->path(), *values.fileSize, values.contentModificationDate.value_or(Timestamp::min()) });
+            found.emplace_back(file->path(), *values.fileSize, values.contentModificationDate);
     }
     std::stable_sort(found.begin(), found.end(),
         [](const Candidate& left, const Candidate& right) { return left.size > right.size; });
@@ -80,8 +72,7 @@ public:
 
     void emit(std::vector<Candidate>& set)
     {
-        std::stable_sort(set.begin(), set.end(),
-            [](const Candidate& left, const Candidate& right) { return left.modified < right.modified; });
+        sortOldestFirst(set);
         const auto& kept = set.front();
         const auto keptName = displayName(kept.url);
         const auto label

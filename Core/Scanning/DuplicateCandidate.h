@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+namespace Korvane {
+
+/// One file that may have copies.
+struct DuplicateCandidate {
+    using Timestamp = std::chrono::sys_time<std::chrono::nanoseconds>;
+
+    std::filesystem::path url;
+    std::int64_t size; ///< Logical size in bytes.
+    Timestamp modified; ///< The distant past when the file has no modification date.
+
+    DuplicateCandidate(std::filesystem::path url, std::int64_t size, std::optional<Timestamp> modificationDate);
+};
+
+/// Puts the oldest file first; equally old ones stay in the order in which they are given.
+void sortOldestFirst(std::vector<DuplicateCandidate>& candidates);
+
+} // namespace Korvane

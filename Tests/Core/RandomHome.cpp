@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Tests/Core/RandomHome.h"
+
+#include "Tests/Core/ScanFixture.h"
+
+#include <array>
+#include <system_error>
+
+#include <sys/stat.h>
+
+namespace Korvane {
+
+using namespace std::chrono_literals;
+
+std::string RandomHome::randomName()
+{
+    static const std::array<std::string, 24> names{ "a", "b", "c", "Documents", "Library", "Caches", "Logs",
+        "Developer", "Xcode", "DerivedData", "node_modules", "target", "vendor", ".hidden", ".git", ".Trash", ".cache",
+        "Editor.app", "Photos.photoslibrary", "bad\xff", "com.apple.thing", "org.example.Player", "with space",
+        "\xC3\xA9t\xC3\xA9" };
+    return names[below(names.size())];
+}
+
+std::filesystem::path RandomHome::randomFolder(const std::filesystem::path& folder)
+{
+    auto path = folder;
+    for (std::size_t depth = below(5); depth > 0; --depth)
+        path /= randomName();
+    std::error_code error;
+    std::filesystem::create_directories(path, error);
+    return error || !std::filesystem::is_directory(std::filesystem::symlink_status(path)) ? folder : path;
+}
+
+void RandomHome::makeFile(const std::filesystem::path& path)
+{
+    // Few sizes and few contents, some alike in the first bytes only, so that sets come about.
+    static const std::array<std::size_t, 7> sizes{ 0, 90, 100, 3000, 3000, 5000, 20'000 };
+    const auto size = sizes[below(sizes.size())];
+    std::string content(size, static_cast<char>('a' + below(2)));
+    if (size > 1500 && below(2) == 0)
+        content[1500] = 'z';
+    writeFile(path, content);
+    setModified(path, std::chrono::system_clock::time_point(24h * 365 * 40) + 1h * below(4));
+    m_lastFile = path;
+}
+
+void RandomHome::makeEntry(const std::filesystem::path& path)
+{
+    std::error_code error;
+    switch (below(12)) {
+    case 0:
+        std::filesystem::create_symlink(m_lastFile, path, error);
+        return;
+    case 1:
+        std::filesystem::create_directory_symlink("..", path, error);
+        return;
+    case 2:
+        if (!m_lastFile.empty())
+            std::filesystem::create_hard_link(m_lastFile, path, error);
+        return;
+    case 3:
+        (void)mkfifo(path.c_str(), 0600);
+        return;
+    default:
+        makeFile(path);
+    }
+}
+
+void RandomHome::fill(const std::filesystem::path& folder, int entries)
+{
+    for (int i = 0; i < entries; ++i) {
+        const auto path = randomFolder(folder) / (randomName() + (below(2) == 0 ? "" : std::to_string(below(50))));
+        if (!std::filesystem::exists(std::filesystem::symlink_status(path)))
+            makeEntry(path);
+    }
+}
+
+} // namespace Korvane

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "Core/Scanning/ScanExclusions.h"
+#include "Platform/DirectoryEnumerator.h"
+
+#include <filesystem>
+#include <vector>
+
+namespace Korvane {
+
+/// The entries of the walk over a home, in the order in which scanners meet them, with the folder of each.
+struct WalkedEntry {
+    std::filesystem::path path;
+    std::filesystem::path parent;
+};
+
+inline std::vector<WalkedEntry> walkOrder(const std::filesystem::path& home)
+{
+    EnumerationOptions options;
+    options.hiddenFiles = HiddenFiles::Skipped;
+    options.packageDescendants = PackageDescendants::Skipped;
+    options.namesNeverEntered = &ScanExclusions::dependencyDirNames();
+    options.pathsNeverEntered = { home / "Library" };
+    DirectoryEnumerator enumerator(home, options);
+    std::vector<WalkedEntry> entries;
+    while (const auto* entry = enumerator.next())
+        entries.push_back({ entry->path(), entry->parentPath() });
+    return entries;
+}
+
+} // namespace Korvane
