@@ -16,6 +16,7 @@
 #include <map>
 #include <set>
 #include <tuple>
+#include <utility>
 
 namespace Korvane {
 
@@ -23,7 +24,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int homes = 150;
+using JunkRow = std::tuple<fs::path, std::string, std::int64_t, bool>;
+
+constexpr unsigned homes = 200;
+constexpr unsigned homesPerTest = 20;
 constexpr int entriesPerHome = 60;
 
 bool isFolder(const fs::path& path) { return fs::is_directory(fs::symlink_status(path)); }
@@ -63,85 +67,89 @@ std::int64_t sizeOfTree(const fs::path& path)
     return size;
 }
 
-class ReferenceTest : public ScanFixture, public testing::WithParamInterface<unsigned> {
-protected:
-    void fill()
+/// One random home, and what each rule makes of it.
+class Reference {
+public:
+    explicit Reference(unsigned seed)
     {
-        RandomHome(GetParam()).fill(home(), entriesPerHome);
-        RandomHome(GetParam() + 1'000'000).fill(temporary(), 3);
+        RandomHome(seed).fill(home(), entriesPerHome);
+        RandomHome(seed + 1'000'000).fill(temporary(), 3);
+        // What a link in the place of a folder means has tests of its own.
+        for (const char* place : { ".cache", ".Trash", "Library", "Library/Caches", "Library/Logs", "Library/Developer",
+                 "Library/Developer/Xcode", "Library/Developer/Xcode/DerivedData" }) {
+            if (fs::is_symlink(home() / place))
+                fs::remove(home() / place);
+        }
+        for (const auto& entry : walkOrder(home()))
+            m_position.emplace(entry.path, m_position.size());
+        m_host.workspace->setRunning({ "org.example.Player" });
     }
 
-    /// Where each path comes in the walk.
-    std::map<fs::path, std::size_t> positions() const
+    std::vector<ScanItem> scan(const JunkScanner& scanner) const
     {
-        std::map<fs::path, std::size_t> found;
-        for (const auto& entry : walkOrder(home()))
-            found.emplace(entry.path, found.size());
+        return scanner.scan(m_host.host, [](const ScanProgress&) {}, {});
+    }
+
+    fs::path home() const { return m_folder / "home"; }
+
+    std::vector<fs::path> largeFiles(std::int64_t threshold, std::size_t count) const
+    {
+        auto files = filesOfHome(home(), home() / "Library");
+        files.erase(std::remove_if(files.begin(), files.end(),
+                        [&](const fs::path& path) { return allocatedBytes(path) < threshold; }),
+            files.end());
+        std::sort(files.begin(), files.end(), [&](const fs::path& left, const fs::path& right) {
+            return std::make_tuple(-allocatedBytes(left), m_position.at(left))
+                < std::make_tuple(-allocatedBytes(right), m_position.at(right));
+        });
+        files.resize(std::min(files.size(), count));
+        return files;
+    }
+
+    std::set<std::vector<fs::path>> duplicates(std::size_t minimum, std::size_t prefix) const
+    {
+        std::map<std::pair<std::uintmax_t, std::string>, std::vector<fs::path>> sets;
+        for (const auto& path : filesOfHome(home(), home() / "Library")) {
+            if (fs::file_size(path) >= minimum)
+                sets[{ fs::file_size(path), readFile(path).substr(0, prefix) }].push_back(path);
+        }
+        std::set<std::vector<fs::path>> found;
+        for (auto& [key, set] : sets) {
+            std::sort(set.begin(), set.end(), [&](const fs::path& left, const fs::path& right) {
+                return std::make_tuple(fs::last_write_time(left), m_position.at(left))
+                    < std::make_tuple(fs::last_write_time(right), m_position.at(right));
+            });
+            if (set.size() > 1)
+                found.insert(set);
+        }
         return found;
     }
-};
 
-} // namespace
-
-TEST_P(ReferenceTest, LargeFilesAgree)
-{
-    fill();
-    auto position = positions();
-    auto expected = filesOfHome(home(), home() / "Library");
-    expected.erase(std::remove_if(expected.begin(), expected.end(),
-                       [](const fs::path& path) { return allocatedBytes(path) < 4096; }),
-        expected.end());
-    std::sort(expected.begin(), expected.end(), [&](const fs::path& left, const fs::path& right) {
-        return std::make_tuple(-allocatedBytes(left), position.at(left))
-            < std::make_tuple(-allocatedBytes(right), position.at(right));
-    });
-    if (expected.size() > 15)
-        expected.resize(15);
-    EXPECT_EQ(urls(scan(LargeFilesScanner(4096, 15))), expected);
-}
-
-TEST_P(ReferenceTest, DuplicatesAgree)
-{
-    fill();
-    auto position = positions();
-    std::map<std::pair<std::uintmax_t, std::string>, std::vector<fs::path>> sets;
-    for (const auto& path : filesOfHome(home(), home() / "Library")) {
-        const auto size = fs::file_size(path);
-        if (size >= 100)
-            sets[{ size, readFile(path).substr(0, 1000) }].push_back(path);
+    std::set<JunkRow> junk() const
+    {
+        const std::set<std::string> inUse{ "com.apple.", "org.example.Player" };
+        std::set<JunkRow> rows;
+        expand(rows, home() / "Library/Caches", "User Caches", inUse);
+        expand(rows, home() / "Library/Logs", "Log Files", {});
+        expand(rows, home() / "Library/Developer/Xcode/DerivedData", "Xcode Junk", {});
+        add(rows, temporary(), "Temporary Files", false);
+        add(rows, home() / ".Trash", "Trash", false);
+        expand(rows, home() / ".cache", "User Caches", inUse);
+        return rows;
     }
-    std::set<std::vector<fs::path>> expected;
-    for (auto& [key, set] : sets) {
-        std::sort(set.begin(), set.end(), [&](const fs::path& left, const fs::path& right) {
-            return std::make_tuple(fs::last_write_time(left), position.at(left))
-                < std::make_tuple(fs::last_write_time(right), position.at(right));
-        });
-        if (set.size() > 1)
-            expected.insert(set);
-    }
-    std::set<std::vector<fs::path>> found;
-    std::vector<fs::path> current;
-    for (const auto& item : scan(DuplicatesScanner(home(), 100, 1000))) {
-        if (!item.selectableByDefault && !current.empty())
-            found.insert(std::exchange(current, {}));
-        current.push_back(item.url);
-    }
-    if (!current.empty())
-        found.insert(current);
-    EXPECT_EQ(found, expected);
-}
 
-TEST_P(ReferenceTest, SystemJunkAgrees)
-{
-    fill();
-    setRunning({ "org.example.Player" });
-    using Row = std::tuple<fs::path, std::string, std::int64_t, bool>;
-    std::set<Row> expected;
-    const auto add = [&](const fs::path& url, const char* category, bool selected) {
+private:
+    fs::path temporary() const { return m_folder / "tmp"; }
+
+    static void add(std::set<JunkRow>& rows, const fs::path& url, const char* category, bool selected)
+    {
         if (sizeOfTree(url) > 0)
-            expected.emplace(url, category, sizeOfTree(url), selected);
-    };
-    const auto expand = [&](const fs::path& place, const char* category, const std::set<std::string>& unselected) {
+            rows.emplace(url, category, sizeOfTree(url), selected);
+    }
+
+    static void expand(
+        std::set<JunkRow>& rows, const fs::path& place, const char* category, const std::set<std::string>& unselected)
+    {
         if (!fs::is_directory(place))
             return;
         for (const auto& entry : fs::directory_iterator(place)) {
@@ -149,25 +157,57 @@ TEST_P(ReferenceTest, SystemJunkAgrees)
             const bool selected = std::none_of(unselected.begin(), unselected.end(),
                 [&](const std::string& part) { return name.find(part) != std::string::npos; });
             if (!isHidden(entry.path()))
-                add(entry.path(), category, selected);
+                add(rows, entry.path(), category, selected);
         }
-    };
-    expand(home() / "Library/Caches", "User Caches", { "com.apple.", "org.example.Player" });
-    expand(home() / "Library/Logs", "Log Files", {});
-    expand(home() / "Library/Developer/Xcode/DerivedData", "Xcode Junk", {});
-    add(temporary(), "Temporary Files", false);
-    add(home() / ".Trash", "Trash", false);
-    expand(home() / ".cache", "User Caches", { "com.apple.", "org.example.Player" });
-    std::set<Row> found;
-    std::int64_t last = std::numeric_limits<std::int64_t>::max();
-    for (const auto& item : scan(SystemJunkScanner())) {
-        found.emplace(item.url, item.category, item.sizeInBytes, item.selectableByDefault);
-        EXPECT_LE(item.sizeInBytes, last);
-        last = item.sizeInBytes;
     }
-    EXPECT_EQ(found, expected);
+
+    TemporaryFolder m_folder;
+    TestHost m_host = makeTestHost(m_folder);
+    std::map<fs::path, std::size_t> m_position; ///< Where each path comes in the walk.
+};
+
+/// The sets among the items of a scan for duplicates: each begins with the one that is not pre-selected.
+std::set<std::vector<fs::path>> setsOf(const std::vector<ScanItem>& items)
+{
+    std::set<std::vector<fs::path>> sets;
+    std::vector<fs::path> current;
+    for (const auto& item : items) {
+        if (!item.selectableByDefault && !current.empty())
+            sets.insert(std::exchange(current, {}));
+        current.push_back(item.url);
+    }
+    if (!current.empty())
+        sets.insert(current);
+    return sets;
 }
 
-INSTANTIATE_TEST_SUITE_P(RandomHomes, ReferenceTest, testing::Range(0U, unsigned{ homes }));
+std::set<JunkRow> rowsOf(const std::vector<ScanItem>& items)
+{
+    std::set<JunkRow> rows;
+    for (const auto& item : items)
+        rows.emplace(item.url, item.category, item.sizeInBytes, item.selectableByDefault);
+    return rows;
+}
+
+class ReferenceTest : public testing::TestWithParam<unsigned> { };
+
+} // namespace
+
+TEST_P(ReferenceTest, EveryRuleAgrees)
+{
+    for (unsigned seed = GetParam(); seed < GetParam() + homesPerTest; ++seed) {
+        SCOPED_TRACE(seed);
+        const Reference reference(seed);
+        EXPECT_EQ(urls(reference.scan(LargeFilesScanner(4096, 15))), reference.largeFiles(4096, 15));
+        EXPECT_EQ(
+            setsOf(reference.scan(DuplicatesScanner(reference.home(), 100, 1000))), reference.duplicates(100, 1000));
+        const auto junk = reference.scan(SystemJunkScanner());
+        EXPECT_EQ(rowsOf(junk), reference.junk());
+        EXPECT_TRUE(std::is_sorted(junk.begin(), junk.end(),
+            [](const ScanItem& left, const ScanItem& right) { return left.sizeInBytes > right.sizeInBytes; }));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(RandomHomes, ReferenceTest, testing::Range(0U, homes, homesPerTest));
 
 } // namespace Korvane
