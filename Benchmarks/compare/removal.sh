@@ -1,0 +1,70 @@
+# SPDX-FileCopyrightText: 2026 The Korvane authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# shellcheck shell=bash
+#
+# Jobs of removing and of moving to the Trash; sourced by compare.sh. Every run gets a tree of its own, made untimed.
+JOBS+=(remove_memory remove_disk remove_flat trash_memory trash_disk)
+
+removal_files=200000 removal_folders=9400 trash_items=10000
+
+remove_contestants() { # PATH
+    contestant "rm -rf" - rm -rf "$1"
+    contestant korvane - "$tools/bench-remove" "$1"
+    contestant "find -delete" - find "$1" -delete
+    contestant "bare loop" - "$tools/bench-bare-remove" "$1"
+}
+
+job_remove_memory() {
+    local place=/dev/shm
+    [[ -d $place && -w $place ]] || { echo "remove_memory: needs $place, a file system in memory" >&2; return; }
+    place=$(mktemp -d "$place/korvane-compare.XXXXXX")
+    begin "Remove $removal_files files in $removal_folders folders, in memory"
+    before="rm -rf $place/tree && \$tools/bench-make-tree $place/tree $removal_files $removal_folders 40"
+    remove_contestants "$place/tree"
+    finish
+    rm -rf "$place"
+}
+
+job_remove_disk() {
+    local place
+    place=$(mktemp -d "$work/remove.XXXXXX")
+    begin "Remove $removal_files files in $removal_folders folders, on disk, warm"
+    before="rm -rf $place/tree && \$tools/bench-make-tree $place/tree $removal_files $removal_folders 40 && sync -f $place"
+    remove_contestants "$place/tree"
+    finish
+    rm -rf "$place"
+}
+
+job_remove_flat() {
+    local place
+    place=$(mktemp -d "$work/remove.XXXXXX")
+    begin "Remove $removal_files files in one folder, on disk, warm"
+    before="rm -rf $place/tree && \$tools/bench-make-tree $place/tree $removal_files 1 1 && sync -f $place"
+    remove_contestants "$place/tree"
+    finish
+    rm -rf "$place"
+}
+
+# Each gets a home folder with files to trash; the desktop's tool finds its Trash by HOME.
+trash_contestants() { # PLACE
+    has gio && contestant "gio trash" - env HOME="$1/home" XDG_DATA_HOME="$1/home/.local/share" bash -c "gio trash $1/home/items/*"
+    contestant korvane - "$tools/bench-trash" "$1/home" "$1/home/items"
+    contestant "bare loop, synced" - "$tools/bench-bare-trash" "$1/home" "$1/home/items" sync
+    contestant "bare loop" - "$tools/bench-bare-trash" "$1/home" "$1/home/items"
+}
+
+compare_trash() { # TITLE PLACE
+    begin "$1"
+    before="rm -rf $2/home && mkdir -p $2/home && \$tools/bench-make-tree $2/home/items $trash_items 1 1"
+    before+=" && mv $2/home/items/Library/* $2/home/items && rmdir $2/home/items/Library && sync -f $2"
+    trash_contestants "$2"
+    finish
+    rm -rf "$2"
+}
+
+job_trash_memory() {
+    [[ -w /dev/shm ]] || { echo "trash_memory: needs /dev/shm, a file system in memory" >&2; return; }
+    compare_trash "Move $trash_items files to the Trash, in memory" "$(mktemp -d /dev/shm/korvane-compare.XXXXXX)"
+}
+
+job_trash_disk() { compare_trash "Move $trash_items files to the Trash, on disk" "$(mktemp -d "$work/trash.XXXXXX")"; }

@@ -1,0 +1,219 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Tests/Platform/Files/TrashFixture.h"
+#include "Tests/Support/PrivateMounts.h"
+
+#include <fstream>
+#include <unistd.h>
+
+namespace Korvane {
+namespace {
+
+/// Things on another volume than the home folder's; where no volume can be mounted, another file system stands in.
+class TrashVolumesTest : public TrashFixture {
+protected:
+    void SetUp() override
+    {
+        std::filesystem::create_directory(m_volume);
+        if (!canMountPrivately())
+            FAIL() << "these tests need a mount of their own: run them as root or allow user namespaces";
+    }
+
+    /// Runs `work` with a volume in memory mounted that holds "folder/item".
+    std::string onVolume(const std::function<std::string()>& work, const std::string& options = {}) const
+    {
+        return runWithPrivateMounts([&] {
+            mountMemory(m_volume, options);
+            writeFile(m_volume / "folder/item", "content");
+            return work();
+        });
+    }
+
+    /// Who the child of onVolume is there.
+    TrashView ownTrash() const { return { m_volume / ".Trash-0" }; }
+
+    /// That the item was neither moved nor changed, and no record is left in any Trash.
+    std::string untouched() const
+    {
+        const bool isSame = readFile(m_volume / "folder/item") == "content";
+        std::string records;
+        for (const auto& trash : { ownTrash().path, m_volume / ".Trash/0", m_trash.path }) {
+            if (std::filesystem::is_directory(trash / "info") && !std::filesystem::is_empty(trash / "info"))
+                records = ", a record in " + trash.native();
+        }
+        return (isSame ? "untouched" : "touched") + records;
+    }
+
+    std::filesystem::path m_volume = m_folder / "volume";
+};
+
+TEST_F(TrashVolumesTest, AnotherVolumesItemGoesToItsOwnTrash)
+{
+    EXPECT_EQ(onVolume([&] {
+        const auto moved = m_files->trashItem(m_volume / "folder/item");
+        return moved.native() + " " + ownTrash().originalPath("item") + " " + readFile(moved) + " "
+            + std::to_string(modeOf(ownTrash().path));
+    }),
+        m_volume.native() + "/.Trash-0/files/item folder/item content " + std::to_string(0700));
+    EXPECT_FALSE(isThere(m_trash.path));
+}
+
+TEST_F(TrashVolumesTest, ThePreparedTrashIsUsedWhenItIsSticky)
+{
+    EXPECT_EQ(onVolume([&] {
+        std::filesystem::create_directory(m_volume / ".Trash");
+        chmod((m_volume / ".Trash").c_str(), 01777);
+        m_files->trashItem(m_volume / "folder/item");
+        return TrashView{ m_volume / ".Trash/0" }.originalPath("item");
+    }),
+        "folder/item");
+}
+
+TEST_F(TrashVolumesTest, APreparedTrashWithoutTheStickyBitIsNotUsed)
+{
+    EXPECT_EQ(onVolume([&] {
+        std::filesystem::create_directory(m_volume / ".Trash");
+        chmod((m_volume / ".Trash").c_str(), 0777);
+        m_files->trashItem(m_volume / "folder/item");
+        return ownTrash().originalPath("item") + std::to_string(std::filesystem::is_empty(m_volume / ".Trash"));
+    }),
+        "folder/item1");
+}
+
+TEST_F(TrashVolumesTest, APreparedTrashThatIsALinkIsNotUsed)
+{
+    EXPECT_EQ(onVolume([&] {
+        std::filesystem::create_directory_symlink(m_sentinel.path().parent_path(), m_volume / ".Trash");
+        m_files->trashItem(m_volume / "folder/item");
+        return ownTrash().originalPath("item");
+    }),
+        "folder/item");
+    EXPECT_FALSE(isThere(m_sentinel.path().parent_path() / "0"));
+}
+
+TEST_F(TrashVolumesTest, AnotherUsersTrashIsRefused)
+{
+    const bool isRoot = geteuid() == 0;
+    EXPECT_EQ(onVolume([&] {
+        std::filesystem::create_directory(ownTrash().path);
+        if (!isRoot)
+            mountBound(
+                "/usr", ownTrash().path); // Nobody else is known in there, but what is root's outside is foreign.
+        else if (chown(ownTrash().path.c_str(), 12345, 12345) != 0)
+            return std::string("chown failed");
+        const std::string failure = trashing(m_volume / "folder/item");
+        return (failure.find("is not a folder of this user") != std::string::npos ? "refused, " : failure)
+            + untouched();
+    }),
+        "refused, untouched");
+}
+
+TEST_F(TrashVolumesTest, ATrashThatIsALinkIsRefused)
+{
+    EXPECT_EQ(onVolume([&] {
+        std::filesystem::create_directory_symlink(m_sentinel.path().parent_path(), ownTrash().path);
+        const std::string failure = trashing(m_volume / "folder/item");
+        return (failure.find("is not a folder of this user") != std::string::npos ? "refused, " : failure)
+            + untouched();
+    }),
+        "refused, untouched");
+    EXPECT_FALSE(isThere(m_sentinel.path().parent_path() / "files"));
+}
+
+TEST_F(TrashVolumesTest, ATrashThatIsAFileIsRefused)
+{
+    EXPECT_EQ(onVolume([&] {
+        writeFile(ownTrash().path, "a file");
+        const std::string failure = trashing(m_volume / "folder/item");
+        return (failure.find("is not a folder of this user") != std::string::npos ? "refused, " : failure)
+            + untouched();
+    }),
+        "refused, untouched");
+}
+
+TEST_F(TrashVolumesTest, AFullVolumeKeepsTheItem)
+{
+    EXPECT_EQ(onVolume(
+                  [&] {
+                      std::filesystem::create_directories(ownTrash().path / "files");
+                      std::filesystem::create_directories(ownTrash().path / "info");
+                      std::ofstream full(m_volume / "full");
+                      while (full << std::string(4096, 'x') << std::flush) { }
+                      return trashing(m_volume / "folder/item") + ", " + untouched();
+                  },
+                  "size=64k"),
+        "No space left on device, untouched");
+}
+
+TEST_F(TrashVolumesTest, AVolumeWithoutInodesKeepsTheItem)
+{
+    EXPECT_EQ(onVolume(
+                  [&] {
+                      std::filesystem::create_directories(ownTrash().path / "files");
+                      std::filesystem::create_directories(ownTrash().path / "info");
+                      for (int i = 0; std::ofstream(m_volume / std::to_string(i)); ++i) { }
+                      return trashing(m_volume / "folder/item") + ", " + untouched();
+                  },
+                  "nr_inodes=24"),
+        "No space left on device, untouched");
+}
+
+TEST_F(TrashVolumesTest, AReadOnlyVolumeKeepsTheItem)
+{
+    EXPECT_EQ(onVolume([&] {
+        makeMountReadOnly(m_volume);
+        return trashing(m_volume / "folder/item") + ", " + untouched();
+    }),
+        "Read-only file system: " + ownTrash().path.native() + ", untouched");
+}
+
+TEST_F(TrashVolumesTest, ABoundFolderHasATrashOfItsOwn)
+{
+    writeFile(home("bound/folder/item"), "content");
+    EXPECT_EQ(runWithPrivateMounts([&] {
+        mountBound(home("bound"), m_volume);
+        m_files->trashItem(m_volume / "folder/item");
+        return ownTrash().originalPath("item");
+    }),
+        "folder/item");
+    EXPECT_FALSE(isThere(m_trash.path));
+    EXPECT_EQ(readFile(home("bound/.Trash-0/files/item")), "content");
+}
+
+TEST_F(TrashVolumesTest, ALinkOnTheWayToTheVolumeIsNoObstacle)
+{
+    std::filesystem::create_directory_symlink(m_volume / "folder", home("way"));
+    EXPECT_EQ(onVolume([&] {
+        m_files->trashItem(home("way/item"));
+        return ownTrash().originalPath("item");
+    }),
+        "folder/item");
+}
+
+TEST_F(TrashVolumesTest, AHomeOnAnotherVolumeKeepsItsOwnTrash)
+{
+    EXPECT_EQ(onVolume([&] {
+        Environment environment = m_environment;
+        environment.home = m_volume;
+        return makeFileManager(environment)->trashItem(m_volume / "folder/item").native();
+    }),
+        m_volume.native() + "/.local/share/Trash/files/item");
+}
+
+TEST_F(TrashVolumesTest, ADataFolderOnAnotherVolumeLeavesTheItemToItsOwnVolume)
+{
+    EXPECT_EQ(onVolume([&] {
+        const auto inner = m_volume / "inner";
+        std::filesystem::create_directory(inner);
+        mountMemory(inner);
+        Environment environment = m_environment;
+        environment.home = m_volume;
+        environment.xdgDataHome = inner;
+        return makeFileManager(environment)->trashItem(m_volume / "folder/item").native();
+    }),
+        ownTrash().file("item").native());
+}
+
+} // namespace
+} // namespace Korvane
