@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "UI/Scan/CleanFailuresModel.h"
+
+#include "Platform/DisplayText.h"
+
+#include <utility>
+
+namespace Korvane {
+
+void CleanFailuresModel::setFailures(std::vector<Cleaner::Failure> failures)
+{
+    beginResetModel();
+    m_failures = std::move(failures);
+    endResetModel();
+}
+
+int CleanFailuresModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_failures.size());
+}
+
+QVariant CleanFailuresModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Cleaner::Failure& failure = m_failures[static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+    case PathRole:
+        return QString::fromStdString(displayText(failure.url));
+    case MessageRole:
+        return QString::fromStdString(failure.message);
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> CleanFailuresModel::roleNames() const
+{
+    return { { PathRole, "path" }, { MessageRole, "message" } };
+}
+
+} // namespace Korvane

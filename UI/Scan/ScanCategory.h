@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QtQmlIntegration>
+
+namespace Korvane {
+
+/// What the heading of one category shows: a snapshot, taken anew after every tick.
+class ScanCategory {
+    Q_GADGET
+    QML_VALUE_TYPE(scanCategory)
+    Q_PROPERTY(QString sizeText MEMBER sizeText)
+    Q_PROPERTY(int itemCount MEMBER itemCount)
+    Q_PROPERTY(int tickedCount MEMBER tickedCount)
+
+public:
+    QString sizeText; ///< The total size of the category's items.
+    int itemCount = 0;
+    int tickedCount = 0;
+
+    bool operator==(const ScanCategory&) const = default;
+};
+
+} // namespace Korvane
