@@ -106,6 +106,8 @@ std::string findingsAsText(const std::vector<ScanItem>& items)
 
 std::string planAsText(const CleaningPlan& plan)
 {
+    if (plan.steps.empty())
+        return "There is nothing to do: no finding is pre-selected. --all and --item take others.\n";
     std::string text;
     appendSteps(text, plan, Cleaner::Action::MoveToTrash, "Would be moved to the Trash:");
     appendSteps(text, plan, Cleaner::Action::Delete, "Would be deleted for good:");
@@ -113,8 +115,8 @@ std::string planAsText(const CleaningPlan& plan)
     std::int64_t total = 0;
     for (const auto& step : plan.steps)
         total = checkedAdd(total, step.item.sizeInBytes);
-    text += (text.empty() ? "" : "\n") + countOfItems(plan.steps.size()) + ", " + formattedBytes(total) + ". ";
-    return text + (plan.steps.empty() ? "There is nothing to do.\n" : "Nothing has been changed; --yes does it.\n");
+    return text + "\n" + countOfItems(plan.steps.size()) + ", " + formattedBytes(total)
+        + ". Nothing has been changed; --yes does it.\n";
 }
 
 std::string resultAsText(const Cleaner::Result& result)

@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "CLI/CommandLine.h"
+
+#include "CLI/UsageError.h"
+
+#include <gtest/gtest.h>
+
+namespace Korvane {
+
+using Command = CommandLine::Command;
+using Format = CommandLine::Format;
+using Selection = CommandLine::Selection;
+
+namespace {
+
+CommandLine parse(const std::vector<std::string>& arguments) { return CommandLine::parse(arguments); }
+
+/// The complaint about these arguments; empty when there is none.
+std::string complaint(const std::vector<std::string>& arguments)
+{
+    try {
+        (void)parse(arguments);
+        return {};
+    } catch (const UsageError& error) {
+        return error.what();
+    }
+}
+
+} // namespace
+
+TEST(CommandLineTest, CommandsWithoutAModule)
+{
+    EXPECT_EQ(parse({ "--help" }).command, Command::Help);
+    EXPECT_EQ(parse({ "-h" }).command, Command::Help);
+    EXPECT_EQ(parse({ "scan", "nonsense", "--help" }).command, Command::Help);
+    EXPECT_EQ(parse({ "--version" }).command, Command::Version);
+    EXPECT_EQ(parse({ "modules" }).command, Command::Modules);
+    EXPECT_EQ(parse({ "modules", "--json" }).format, Format::Json);
+}
+
+TEST(CommandLineTest, ScanNamesAModule)
+{
+    EXPECT_EQ(parse({ "scan", "systemJunk" }).module, CleanerModule::systemJunk);
+    EXPECT_EQ(parse({ "scan", "largeFiles" }).module, CleanerModule::largeFiles);
+    const auto line = parse({ "scan", "--json", "duplicates" });
+    EXPECT_EQ(line.command, Command::Scan);
+    EXPECT_EQ(line.module, CleanerModule::duplicates);
+    EXPECT_EQ(line.format, Format::Json);
+}
+
+TEST(CommandLineTest, CleanTakesThePreselectedToTheTrashAndOnlySaysSoUnlessTold)
+{
+    const auto line = parse({ "clean", "systemJunk" });
+    EXPECT_EQ(line.command, Command::Clean);
+    EXPECT_EQ(line.selection, Selection::Preselected);
+    EXPECT_EQ(line.removal, CommandLine::Removal::MoveToTrash);
+    EXPECT_EQ(line.confirmation, CommandLine::Confirmation::Missing);
+    EXPECT_EQ(line.format, Format::Text);
+}
+
+TEST(CommandLineTest, CleanTakesItsOptionsInAnyOrder)
+{
+    const auto line = parse({ "clean", "--yes", "--delete", "systemJunk", "--json", "--all" });
+    EXPECT_EQ(line.selection, Selection::All);
+    EXPECT_EQ(line.removal, CommandLine::Removal::Delete);
+    EXPECT_EQ(line.confirmation, CommandLine::Confirmation::Given);
+    EXPECT_EQ(line.format, Format::Json);
+}
+
+TEST(CommandLineTest, ItemsAreTakenAsBytesAsTheyAreGiven)
+{
+    const auto line
+        = parse({ "clean", "systemJunk", "--item", "/a\xff", "--item=/b=c", "--item", "--help", "--item=" });
+    EXPECT_EQ(line.command, Command::Clean);
+    EXPECT_EQ(line.selection, Selection::Named);
+    EXPECT_EQ(line.namedItems, (std::vector<std::filesystem::path>{ "/a\xff", "/b=c", "--help", "" }));
+}
+
+TEST(CommandLineTest, CommandHasToBeKnown)
+{
+    EXPECT_EQ(complaint({}), "a command is missing; one of: modules, scan, clean, --help, --version");
+    EXPECT_EQ(complaint({ "Scan" }), "unknown command 'Scan'; one of: modules, scan, clean, --help, --version");
+    EXPECT_EQ(complaint({ "--json" }), "unknown command '--json'; one of: modules, scan, clean, --help, --version");
+}
+
+TEST(CommandLineTest, ModuleHasToBeGivenOnceAndKnown)
+{
+    EXPECT_EQ(complaint({ "scan" }), "a module is missing; one of: systemJunk, largeFiles, duplicates");
+    EXPECT_EQ(
+        complaint({ "scan", "SystemJunk" }), "unknown module 'SystemJunk'; one of: systemJunk, largeFiles, duplicates");
+    EXPECT_EQ(complaint({ "scan", "maintenance" }),
+        "module 'maintenance' has no scan; one of: systemJunk, largeFiles, duplicates");
+    EXPECT_EQ(complaint({ "scan", "systemJunk", "duplicates" }), "unexpected argument 'duplicates'");
+    EXPECT_EQ(complaint({ "modules", "systemJunk" }), "unexpected argument 'systemJunk'");
+    EXPECT_EQ(complaint({ "--version", "now" }), "unexpected argument 'now'");
+}
+
+TEST(CommandLineTest, OptionsHaveToBeKnownAndInTheirPlace)
+{
+    EXPECT_EQ(
+        complaint({ "scan", "systemJunk", "--force" }), "unknown option '--force'; --help lists the options there are");
+    EXPECT_EQ(complaint({ "scan", "systemJunk", "--item=/a" }), "option '--item' belongs to the command 'clean' only");
+    for (const char* option : { "--all", "--delete", "--yes", "--item" }) {
+        EXPECT_EQ(complaint({ "scan", "systemJunk", option }),
+            std::string("option '") + option + "' belongs to the command 'clean' only");
+    }
+    EXPECT_EQ(complaint({ "clean", "systemJunk", "--item" }), "option '--item' needs the path of one of the findings");
+}
+
+TEST(CommandLineTest, AllAndItemExcludeEachOther)
+{
+    const std::string expected = "options '--all' and '--item' exclude each other";
+    EXPECT_EQ(complaint({ "clean", "systemJunk", "--all", "--item", "/a" }), expected);
+    EXPECT_EQ(complaint({ "clean", "systemJunk", "--item", "/a", "--all" }), expected);
+}
+
+TEST(CommandLineTest, ComplaintsShowBytesThatAreNoText)
+{
+    EXPECT_EQ(
+        complaint({ "scan", "bad\xff" }), "unknown module 'bad\uFFFD'; one of: systemJunk, largeFiles, duplicates");
+}
+
+} // namespace Korvane

@@ -1,0 +1,384 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Tests/CLI/ProgramRun.h"
+#include "Tests/Support/OrdinaryUser.h"
+#include "Tests/Support/Sentinel.h"
+#include "Tests/Support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QByteArray>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <chrono>
+#include <csignal>
+#include <thread>
+
+#include <unistd.h>
+
+namespace Korvane {
+
+using namespace std::chrono_literals;
+using Output = ProgramRun::Output;
+using Errors = ProgramRun::Errors;
+
+namespace {
+
+class ProgramTest : public testing::Test {
+protected:
+    ProgramTest()
+    {
+        std::filesystem::create_directory(home());
+        std::filesystem::create_directory(folder / "tmp");
+    }
+
+    std::filesystem::path home() const { return folder / "home"; }
+    std::filesystem::path trashed(const std::string& name) const { return home() / ".local/share/Trash/files" / name; }
+
+    std::filesystem::path makeLog(const std::string& name, std::size_t bytes = 5000) const
+    {
+        writeFile(home() / "Library/Logs" / name, bytes);
+        return home() / "Library/Logs" / name;
+    }
+    std::filesystem::path makeSystemCache() const
+    {
+        writeFile(home() / "Library/Caches/com.apple.thing/data", std::size_t{ 9000 });
+        return home() / "Library/Caches/com.apple.thing";
+    }
+
+    /// Runs to the end; the exit status.
+    int run(const std::vector<std::string>& arguments, Output standardOutput = Output::Captured)
+    {
+        ProgramRun program(folder.path(), arguments, standardOutput);
+        program.finish();
+        output = program.output();
+        errors = program.errors();
+        return program.status();
+    }
+
+    /// The one JSON object that was printed.
+    QJsonObject json() const
+    {
+        QJsonParseError error;
+        const auto document = QJsonDocument::fromJson(QByteArray::fromStdString(output), &error);
+        EXPECT_EQ(error.error, QJsonParseError::NoError) << output;
+        return document.object();
+    }
+
+    TemporaryFolder folder;
+    std::string output;
+    std::string errors;
+};
+
+std::string text(const QJsonValue& value) { return value.toString().toStdString(); }
+
+} // namespace
+
+TEST_F(ProgramTest, ModulesAreListed)
+{
+    EXPECT_EQ(run({ "modules" }), 0);
+    for (const char* name : { "systemJunk", "largeFiles", "duplicates", "Large & Old Files" })
+        EXPECT_NE(output.find(name), std::string::npos) << output;
+    EXPECT_EQ(run({ "modules", "--json" }), 0);
+    const auto modules = json()["modules"].toArray();
+    ASSERT_EQ(modules.size(), 6);
+    EXPECT_EQ(text(modules[0].toObject()["module"]), "systemJunk");
+    EXPECT_EQ(text(modules[0].toObject()["title"]), "System Junk");
+    EXPECT_TRUE(modules[0].toObject()["scannable"].toBool());
+    EXPECT_FALSE(modules[2].toObject()["scannable"].toBool());
+}
+
+TEST_F(ProgramTest, HelpAndVersionArePrinted)
+{
+    EXPECT_EQ(run({ "--help" }), 0);
+    EXPECT_NE(output.find("korvane-cli clean MODULE"), std::string::npos);
+    EXPECT_EQ(run({ "clean", "-h" }), 0);
+    EXPECT_EQ(run({ "--version" }), 0);
+    EXPECT_EQ(output, "korvane-cli " KORVANE_TEST_VERSION "\n");
+    EXPECT_EQ(errors, "");
+}
+
+TEST_F(ProgramTest, WrongUseSaysWhatIsRight)
+{
+    EXPECT_EQ(run({}), 2);
+    EXPECT_NE(errors.find("modules, scan, clean"), std::string::npos) << errors;
+    EXPECT_EQ(run({ "scan", "nothing" }), 2);
+    EXPECT_NE(errors.find("systemJunk, largeFiles, duplicates"), std::string::npos) << errors;
+    EXPECT_EQ(run({ "scan", "systemJunk", "--yes" }), 2);
+    EXPECT_NE(errors.find("'clean'"), std::string::npos) << errors;
+    EXPECT_EQ(output, "");
+}
+
+TEST_F(ProgramTest, EmptyHomeHasNothingToClean)
+{
+    EXPECT_EQ(run({ "scan", "systemJunk" }), 0);
+    EXPECT_EQ(output, "Nothing found to clean in this module.\n");
+    EXPECT_EQ(run({ "scan", "systemJunk", "--json" }), 0);
+    EXPECT_EQ(output, "{\"module\":\"systemJunk\",\"items\":[],\"totalBytes\":0}\n");
+}
+
+TEST_F(ProgramTest, ScanPrintsGroupsWithSizesAndChangesNothing)
+{
+    const auto log = makeLog("run.log", 100'000);
+    const auto cache = makeSystemCache();
+    const Sentinel sentinel(home() / "Library/Logs/sentinel");
+    EXPECT_EQ(run({ "scan", "systemJunk" }), 0);
+    EXPECT_LT(output.find("Log Files"), output.find("User Caches")) << output;
+    EXPECT_NE(output.find("[x]"), std::string::npos);
+    EXPECT_NE(output.find("[ ]"), std::string::npos);
+    EXPECT_NE(output.find(log.string() + "\n"), std::string::npos);
+    EXPECT_NE(output.find("Total: 3 items"), std::string::npos);
+    EXPECT_EQ(errors, "");
+    EXPECT_EQ(sentinel.difference(), "");
+    EXPECT_TRUE(std::filesystem::exists(log) && std::filesystem::exists(cache));
+    EXPECT_FALSE(std::filesystem::exists(home() / ".local"));
+}
+
+TEST_F(ProgramTest, ScanPrintsOneJsonObjectWithTheMembersInOrder)
+{
+    const auto log = makeLog("a \"quoted\"\nname.log");
+    const auto cache = makeSystemCache();
+    EXPECT_EQ(run({ "scan", "--json", "systemJunk" }), 0);
+    const auto object = json();
+    EXPECT_EQ(text(object["module"]), "systemJunk");
+    const auto items = object["items"].toArray();
+    ASSERT_EQ(items.size(), 2);
+    EXPECT_EQ(text(items[0].toObject()["path"]), cache);
+    EXPECT_EQ(text(items[0].toObject()["category"]), "User Caches");
+    EXPECT_EQ(text(items[0].toObject()["displayName"]), "com.apple.thing");
+    EXPECT_FALSE(items[0].toObject()["selectableByDefault"].toBool());
+    EXPECT_EQ(text(items[1].toObject()["path"]), log);
+    EXPECT_TRUE(items[1].toObject()["selectableByDefault"].toBool());
+    EXPECT_EQ(object["totalBytes"].toInteger(),
+        items[0].toObject()["sizeInBytes"].toInteger() + items[1].toObject()["sizeInBytes"].toInteger());
+    std::size_t position = 0;
+    for (const char* key : { "{\"module\":", "\"items\":[{\"path\":", "\"displayName\":", "\"category\":",
+             "\"sizeInBytes\":", "\"selectableByDefault\":", "\"totalBytes\":" }) {
+        position = output.find(key, position);
+        EXPECT_NE(position, std::string::npos) << key;
+    }
+}
+
+TEST_F(ProgramTest, PathThatIsNoTextIsGivenExactlyToo)
+{
+    const auto log = makeLog("bad\xff.log");
+    EXPECT_EQ(run({ "scan", "systemJunk", "--json" }), 0);
+    const auto item = json()["items"].toArray()[0].toObject();
+    EXPECT_EQ(QByteArray::fromBase64(text(item["pathBase64"]).c_str()).toStdString(), log.native());
+    EXPECT_NE(text(item["path"]).find("bad\uFFFD.log"), std::string::npos);
+    EXPECT_EQ(run({ "clean", "systemJunk", "--item", log.native(), "--yes", "--delete" }), 0);
+    EXPECT_FALSE(std::filesystem::exists(log));
+}
+
+TEST_F(ProgramTest, LargeFilesAndDuplicatesAreScannedToo)
+{
+    writeFile(home() / "a.bin", std::string(1'048'576, 'x'));
+    writeFile(home() / "b.bin", std::string(1'048'576, 'x'));
+    EXPECT_EQ(run({ "scan", "duplicates", "--json" }), 0);
+    EXPECT_EQ(json()["items"].toArray().size(), 2);
+    EXPECT_EQ(run({ "scan", "duplicates" }), 0);
+    EXPECT_NE(output.find(".bin (original)\n"), std::string::npos) << output;
+    EXPECT_EQ(run({ "scan", "largeFiles", "--json" }), 0);
+    EXPECT_EQ(text(json()["module"]), "largeFiles");
+}
+
+TEST_F(ProgramTest, CleanWithoutYesOnlySaysWhatItWouldDo)
+{
+    const auto log = makeLog("run.log");
+    const auto cache = makeSystemCache();
+    EXPECT_EQ(run({ "clean", "systemJunk" }), 0);
+    EXPECT_NE(output.find("Would be moved to the Trash:"), std::string::npos);
+    EXPECT_NE(output.find("--yes"), std::string::npos);
+    EXPECT_EQ(output.find(cache.string()), std::string::npos);
+    EXPECT_EQ(run({ "clean", "systemJunk", "--all", "--delete", "--json" }), 0);
+    EXPECT_TRUE(json()["dryRun"].toBool());
+    ASSERT_EQ(json()["items"].toArray().size(), 2);
+    EXPECT_EQ(text(json()["items"].toArray()[0].toObject()["action"]), "delete");
+    EXPECT_TRUE(std::filesystem::exists(log) && std::filesystem::exists(cache));
+}
+
+TEST_F(ProgramTest, CleanMovesThePreselectedToTheTrash)
+{
+    const auto log = makeLog("run.log");
+    const auto cache = makeSystemCache();
+    EXPECT_EQ(run({ "clean", "systemJunk", "--yes", "--json" }), 0);
+    EXPECT_EQ(json()["cleanedCount"].toInteger(), 1);
+    EXPECT_GE(json()["cleanedBytes"].toInteger(), 5000);
+    EXPECT_TRUE(json()["failures"].toArray().isEmpty());
+    EXPECT_FALSE(std::filesystem::exists(log));
+    EXPECT_TRUE(std::filesystem::exists(trashed("run.log")));
+    EXPECT_TRUE(std::filesystem::exists(cache));
+}
+
+TEST_F(ProgramTest, CleanReportsForPeopleToo)
+{
+    makeLog("run.log");
+    EXPECT_EQ(run({ "clean", "systemJunk", "--yes" }), 0);
+    EXPECT_NE(output.find("1 items moved to Trash or removed\n"), std::string::npos) << output;
+    EXPECT_EQ(output.find("could not"), std::string::npos);
+}
+
+TEST_F(ProgramTest, DeleteLeavesNothingInTheTrash)
+{
+    const auto log = makeLog("run.log");
+    EXPECT_EQ(run({ "clean", "systemJunk", "--delete", "--yes" }), 0);
+    EXPECT_FALSE(std::filesystem::exists(log));
+    EXPECT_FALSE(std::filesystem::exists(trashed("run.log")));
+}
+
+TEST_F(ProgramTest, AllTakesWhatIsNotPreselected)
+{
+    const auto cache = makeSystemCache();
+    EXPECT_EQ(run({ "clean", "systemJunk", "--all", "--yes" }), 0);
+    EXPECT_FALSE(std::filesystem::exists(cache));
+    EXPECT_TRUE(std::filesystem::exists(trashed("com.apple.thing")));
+}
+
+TEST_F(ProgramTest, NamedItemsAloneAreTakenHoweverOften)
+{
+    const auto first = makeLog("first.log");
+    const auto second = makeLog("second.log");
+    const auto cache = makeSystemCache();
+    EXPECT_EQ(
+        run({ "clean", "systemJunk", "--item", first, "--item=" + cache.string(), "--item", first, "--yes", "--json" }),
+        0);
+    EXPECT_EQ(json()["cleanedCount"].toInteger(), 2);
+    EXPECT_FALSE(std::filesystem::exists(first) || std::filesystem::exists(cache));
+    EXPECT_TRUE(std::filesystem::exists(second));
+}
+
+TEST_F(ProgramTest, ItemThatIsNoFindingStopsEverything)
+{
+    const auto log = makeLog("run.log");
+    const Sentinel sentinel(home() / "Documents/keep");
+    for (const auto& wrong : { sentinel.path().string(), log.string() + "/", std::string("run.log"), std::string() }) {
+        EXPECT_EQ(run({ "clean", "systemJunk", "--item", log, "--item", wrong, "--yes", "--delete" }), 2) << wrong;
+        EXPECT_NE(errors.find("korvane-cli scan systemJunk"), std::string::npos) << errors;
+        EXPECT_EQ(output, "");
+    }
+    EXPECT_TRUE(std::filesystem::exists(log));
+    EXPECT_EQ(sentinel.difference(), "");
+}
+
+TEST_F(ProgramTest, TrashIsEmptiedAndThePlanSaysSo)
+{
+    writeFile(home() / ".Trash/old", std::size_t{ 5000 });
+    EXPECT_EQ(run({ "clean", "systemJunk", "--all" }), 0);
+    EXPECT_NE(output.find("Would be emptied"), std::string::npos) << output;
+    EXPECT_EQ(run({ "clean", "systemJunk", "--all", "--yes" }), 0);
+    EXPECT_TRUE(std::filesystem::is_empty(home() / ".Trash"));
+}
+
+TEST_F(ProgramTest, ItemsThatFailAreReportedWithTheReason)
+{
+    const auto log = makeLog("run.log");
+    const auto other = home() / "Library/Developer/Xcode/DerivedData/Project";
+    writeFile(other / "data", std::size_t{ 5000 });
+    giveToOrdinaryUser(folder.path());
+    std::filesystem::permissions(log.parent_path(), std::filesystem::perms(0555));
+    if (geteuid() == 0) {
+        ASSERT_EQ(chown(log.parent_path().c_str(), 0, 0), 0);
+    }
+    const auto answer = runAsOrdinaryUser([&] {
+        ProgramRun program(folder.path(), { "clean", "systemJunk", "--yes", "--delete", "--json" });
+        program.finish();
+        return std::to_string(program.status()) + program.output();
+    });
+    output = answer.substr(1);
+    EXPECT_EQ(answer.front(), '1') << answer;
+    EXPECT_EQ(json()["cleanedCount"].toInteger(), 1);
+    const auto failures = json()["failures"].toArray();
+    ASSERT_EQ(failures.size(), 1);
+    EXPECT_EQ(text(failures[0].toObject()["path"]), log);
+    EXPECT_FALSE(text(failures[0].toObject()["message"]).empty());
+    EXPECT_TRUE(std::filesystem::exists(log));
+    EXPECT_FALSE(std::filesystem::exists(other));
+}
+
+TEST_F(ProgramTest, OutputThatCannotBeWrittenIsAFailure)
+{
+    makeLog("run.log");
+    for (const auto broken : { Output::FullDevice, Output::BrokenPipe, Output::Closed }) {
+        EXPECT_EQ(run({ "scan", "systemJunk" }, broken), 1);
+        EXPECT_NE(errors.find("korvane-cli: standard output"), std::string::npos) << errors;
+    }
+}
+
+TEST_F(ProgramTest, HomeThatIsMissingIsEmpty)
+{
+    std::filesystem::remove(home());
+    for (const char* module : { "systemJunk", "largeFiles", "duplicates" }) {
+        EXPECT_EQ(run({ "scan", module, "--json" }), 0);
+        EXPECT_TRUE(json()["items"].toArray().isEmpty());
+    }
+}
+
+TEST_F(ProgramTest, CacheDirectoryOfTheEnvironmentIsHonoured)
+{
+    writeFile(folder / "caches/player/data", std::size_t{ 5000 });
+    ProgramRun program(folder.path(), { "scan", "systemJunk" }, Output::Captured, Errors::Captured,
+        { "XDG_CACHE_HOME=" + (folder / "caches").string() });
+    program.finish();
+    EXPECT_EQ(program.status(), 0);
+    EXPECT_NE(program.output().find((folder / "caches/player").string()), std::string::npos);
+}
+
+TEST_F(ProgramTest, ProgressIsShownOnATerminalAndWipedAtTheEnd)
+{
+    makeLog("run.log");
+    ProgramRun program(folder.path(), { "scan", "systemJunk" }, Output::Captured, Errors::Terminal);
+    program.finish();
+    EXPECT_EQ(program.status(), 0);
+    const auto& shown = program.errors();
+    EXPECT_NE(shown.find(" found, "), std::string::npos) << shown;
+    EXPECT_EQ(shown.find('\n'), std::string::npos);
+    ASSERT_GT(shown.size(), 2U);
+    EXPECT_EQ(shown.back(), '\r');
+    const auto wipe = shown.substr(shown.rfind('\r', shown.size() - 2) + 1);
+    EXPECT_EQ(wipe.find_first_not_of(" \r"), std::string::npos) << wipe;
+}
+
+TEST_F(ProgramTest, InterruptedScanEndsAtOnceAndReportsNothing)
+{
+    for (int i = 0; i < 3000; ++i) {
+        writeFile(home() / ("f" + std::to_string(i)), std::string_view());
+        std::filesystem::resize_file(home() / ("f" + std::to_string(i)), 8'388'608);
+    }
+    ProgramRun program(folder.path(), { "scan", "duplicates", "--json" });
+    std::this_thread::sleep_for(500ms);
+    const auto start = std::chrono::steady_clock::now();
+    program.signal(SIGINT);
+    program.finish();
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 2s);
+    EXPECT_EQ(program.status(), 130);
+    EXPECT_EQ(program.output(), "");
+}
+
+TEST_F(ProgramTest, InterruptedCleaningReportsExactlyWhatWasDone)
+{
+    constexpr std::size_t count = 3000;
+    for (std::size_t i = 0; i < count; ++i)
+        makeLog("f" + std::to_string(i), 1);
+    ProgramRun program(folder.path(), { "clean", "systemJunk", "--yes", "--json" }, Output::Captured, Errors::Terminal);
+    ASSERT_TRUE(program.waitForTerminalText("Cleaning "));
+    program.signal(SIGINT);
+    program.finish();
+    output = program.output();
+    EXPECT_EQ(program.status(), 130) << output;
+    EXPECT_NE(program.errors().find("were not touched"), std::string::npos);
+    const auto cleaned = static_cast<std::size_t>(json()["cleanedCount"].toInteger());
+    std::size_t left = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(home() / "Library/Logs"))
+        left += entry.is_regular_file() ? 1 : 0;
+    std::size_t inTrash = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(trashed("")))
+        inTrash += entry.is_regular_file() ? 1 : 0;
+    EXPECT_LT(cleaned, count);
+    EXPECT_EQ(cleaned, inTrash);
+    EXPECT_EQ(cleaned + left, count);
+}
+
+} // namespace Korvane
