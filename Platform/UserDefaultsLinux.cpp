@@ -3,7 +3,7 @@
 
 #include "Platform/UserDefaults.h"
 
-#include "Platform/FileUserDefaults.h"
+#include "Platform/Preferences/FileUserDefaults.h"
 
 namespace Korvane {
 

@@ -3,8 +3,8 @@
 
 #include "Platform/UserDefaults.h"
 
-#include "Platform/FileUserDefaults.h"
-#include "Platform/ObserverList.h"
+#include "Platform/Preferences/FileUserDefaults.h"
+#include "Platform/Preferences/ObserverList.h"
 
 #import <Foundation/Foundation.h>
 

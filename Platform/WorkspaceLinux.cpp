@@ -3,9 +3,9 @@
 
 #include "Platform/Workspace.h"
 
+#include "Platform/Applications/LinuxApplications.h"
 #include "Platform/FileManagerService.h"
 #include "Platform/FileUri.h"
-#include "Platform/LinuxApplications.h"
 
 #include <QtCore/QProcess>
 #include <QtCore/QString>

@@ -3,9 +3,13 @@
 
 #include "Platform/ByteCountFormatter.h"
 
+#include "Tests/Support/EnvironmentVariable.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <string>
 #include <thread>
@@ -97,6 +101,28 @@ TEST(ByteCountFormatter, TakesTheUsersLocaleWhenNoneIsNamed)
     EXPECT_EQ(ByteCountFormatter::string(0), "Zero KB");
     EXPECT_EQ(ByteCountFormatter::string(12'400'000), "12.4 MB");
 }
+
+#ifndef __APPLE__
+TEST(ByteCountFormatter, TakesTheUsersLocaleFromTheEnvironment)
+{
+    // The locale is asked for once in a program's life: each case is a program of its own.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    struct Case {
+        const char* locale;
+        const char* text;
+    };
+    for (const auto& [locale, text] : { Case{ "fr_FR.UTF-8", "12,4.*Mo" }, Case{ "de_DE.UTF-8", "12,4.*MB" },
+             Case{ "C", "12\\.4 MB" }, Case{ "nonsense", "12\\.4.*MB" } }) {
+        const EnvironmentVariable all("LC_ALL", locale);
+        EXPECT_EXIT(
+            {
+                std::fputs(ByteCountFormatter::string(12'400'000).c_str(), stderr);
+                std::exit(0);
+            },
+            testing::ExitedWithCode(0), text);
+    }
+}
+#endif
 
 TEST(ByteCountFormatter, MayBeCalledByManyThreadsAtOnce)
 {

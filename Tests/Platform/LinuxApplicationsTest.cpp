@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "Platform/LinuxApplications.h"
+#include "Platform/Applications/LinuxApplications.h"
 
-#include "Platform/Interpreters.h"
+#include "Platform/Applications/Interpreters.h"
 #include "Tests/Support/ChildProgram.h"
 #include "Tests/Support/TemporaryFolder.h"
 

@@ -3,8 +3,8 @@
 
 #include "Platform/UserDefaults.h"
 
-#include "Platform/FileUserDefaults.h"
-#include "Platform/PreferencesFile.h"
+#include "Platform/Preferences/FileUserDefaults.h"
+#include "Platform/Preferences/PreferencesFile.h"
 #include "Tests/Support/OrdinaryUser.h"
 #include "Tests/Support/Sentinel.h"
 #include "Tests/Support/TemporaryFolder.h"

@@ -3,10 +3,10 @@
 
 #include "Platform/Uuid.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <mutex>
-#include <regex>
 #include <thread>
 #include <unordered_set>
 #include <vector>
@@ -16,11 +16,9 @@ namespace {
 
 TEST(Uuid, IsOfVersionFourAndVariantOne)
 {
-    const std::regex form("[0-9a-f]{8}-[0-9a-f]{4}-4[0-9a-f]{3}-[89ab][0-9a-f]{3}-[0-9a-f]{12}");
-    for (int round = 0; round < 100; ++round) {
-        const auto text = Uuid::random().toString();
-        EXPECT_TRUE(std::regex_match(text, form)) << text;
-    }
+    for (int round = 0; round < 100; ++round)
+        EXPECT_THAT(Uuid::random().toString(),
+            testing::MatchesRegex("[0-9a-f]{8}-[0-9a-f]{4}-4[0-9a-f]{3}-[89ab][0-9a-f]{3}-[0-9a-f]{12}"));
 }
 
 TEST(Uuid, WritesItsBytesInOrder)

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "Platform/LinuxApplications.h"
+#include "Platform/Applications/LinuxApplications.h"
 
-#include "Platform/ApplicationUnit.h"
-#include "Platform/InstalledApplications.h"
-#include "Platform/Interpreters.h"
+#include "Platform/Applications/ApplicationUnit.h"
+#include "Platform/Applications/InstalledApplications.h"
+#include "Platform/Applications/Interpreters.h"
 #include "Platform/LowerCase.h"
 #include "Platform/SmallFile.h"
 

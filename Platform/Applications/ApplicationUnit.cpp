@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "Platform/ApplicationUnit.h"
+#include "Platform/Applications/ApplicationUnit.h"
 
 namespace Korvane {
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "Platform/InstalledApplications.h"
+#include "Platform/Applications/InstalledApplications.h"
 
-#include "Platform/Interpreters.h"
+#include "Platform/Applications/Interpreters.h"
 #include "Platform/LowerCase.h"
 #include "Platform/SmallFile.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "Platform/PreferencesFile.h"
+#include "Platform/Preferences/PreferencesFile.h"
 
 #include "Platform/DisplayText.h"
 #include "Platform/FileDescriptor.h"

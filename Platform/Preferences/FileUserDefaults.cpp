@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "Platform/FileUserDefaults.h"
+#include "Platform/Preferences/FileUserDefaults.h"
 
-#include "Platform/ObserverList.h"
-#include "Platform/PreferencesFile.h"
+#include "Platform/Preferences/ObserverList.h"
+#include "Platform/Preferences/PreferencesFile.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "Platform/DesktopEntry.h"
+#include "Platform/Applications/DesktopEntry.h"
 
 #include <filesystem>
 #include <string>
