@@ -74,3 +74,9 @@ function(korvane_add_display_test name label)
     set_tests_properties(${name}.display PROPERTIES
         LABELS ${label} ENVIRONMENT "QT_QPA_PLATFORM=xcb;LC_ALL=C.UTF-8")
 endfunction()
+
+# korvane_add_script_test(NAME LABEL SCRIPT [ARGUMENT...]): a test that is a script and fails with its status.
+function(korvane_add_script_test name label)
+    add_test(NAME ${name} COMMAND ${ARGN} WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})
+    set_tests_properties(${name} PROPERTIES LABELS ${label})
+endfunction()

@@ -24,7 +24,7 @@ debian_test_packages=(
     libgtest-dev libgmock-dev qml6-module-qttest
     xvfb xauth openbox xdotool imagemagick procps
     libglib2.0-bin gvfs trash-cli
-    desktop-file-utils appstream
+    desktop-file-utils appstream dpkg-dev
 )
 
 fedora_packages=(

@@ -145,6 +145,16 @@ TEST(Lengths, AFunctionFitsOnAScreen)
         ElementsAre(HasSubstr("Core/A.cpp:8: a function of 41 lines")));
 }
 
+TEST(Lengths, TheRowsOfATableDoNotCount)
+{
+    std::string table = "void run()\n{\n    static const std::set<int> names {\n";
+    for (int i = 0; i < 60; ++i) {
+        table += "        \"name\",\n        // a remark\n        { 1, 2 },\n";
+    }
+    EXPECT_THAT(checkLengths(sourceText("Core/A.cpp", table + "    };\n}\n")), IsEmpty());
+    EXPECT_THAT(checkLengths(sourceText("Core/A.cpp", table + linesOf(39) + "    };\n}\n")), SizeIs(1));
+}
+
 TEST(Project, IsReadFromDisk)
 {
     TemporaryFolder folder;

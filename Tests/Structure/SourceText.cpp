@@ -19,8 +19,10 @@ const std::array roomsRead{ "App", "Benchmarks", "CLI", "Core", "Packaging", "Pl
 
 bool isWritten(const std::filesystem::path& file)
 {
-    static const std::set<std::string> endings{ ".cpp", ".h", ".mm", ".qml", ".sh", ".cmake", ".py", "" };
-    return file.filename() == "CMakeLists.txt" || endings.contains(file.extension().string());
+    static const std::set<std::string> endings{ ".cpp", ".h", ".mm", ".qml", ".sh", ".cmake", ".py" };
+    const std::string room = file.parent_path().filename().string();
+    const bool isProgram = !file.has_extension() && (room == "scripts" || room == ".ci");
+    return isProgram || file.filename() == "CMakeLists.txt" || endings.contains(file.extension().string());
 }
 
 std::string contentOf(const std::filesystem::path& file)
