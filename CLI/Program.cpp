@@ -7,7 +7,6 @@
 #include "CLI/StandardStreams.h"
 #include "CLI/TerminalProgress.h"
 #include "CLI/UsageError.h"
-#include "CLI/Version.h"
 #include "Platform/Checked.h"
 #include "Platform/DisplayText.h"
 
@@ -86,7 +85,7 @@ ExitStatus Program::runCommand(const CommandLine& line)
         print(std::string(usageText()));
         return ExitStatus::Done;
     case Command::Version:
-        print("korvane-cli " + std::string(version) + "\n");
+        print("korvane-cli " KORVANE_VERSION "\n");
         return ExitStatus::Done;
     case Command::Modules:
         print(isJson ? modulesAsJson() : modulesAsText());

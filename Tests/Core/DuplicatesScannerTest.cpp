@@ -1,21 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "Core/Scanning/DuplicatesScanner.h"
-
 #include "Core/Scanning/DuplicateCandidate.h"
 #include "Core/Scanning/FormattedBytes.h"
-#include "Tests/Core/ForwardingFileManager.h"
-#include "Tests/Core/ScanFixture.h"
+#include "Tests/Core/DuplicatesFixture.h"
 #include "Tests/Core/WalkOrder.h"
-#include "Tests/Support/OrdinaryUser.h"
-#include "Tests/Support/Sentinel.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-
-#include <sys/stat.h>
 
 namespace Korvane {
 
@@ -25,26 +18,7 @@ namespace {
 
 constexpr std::size_t mebibyte = 1'048'576;
 
-class DuplicatesScannerTest : public ScanFixture {
-protected:
-    std::vector<ScanItem> scanHome() { return scan(DuplicatesScanner(home())); }
-
-    /// Small files, so that a test of names needs no large ones.
-    std::vector<ScanItem> scanSmall() { return scan(DuplicatesScanner(home(), 100, 1000)); }
-
-    std::filesystem::path make(
-        const std::filesystem::path& relative, const std::string& content, std::chrono::hours age = 1h) const
-    {
-        writeFile(home() / relative, content);
-        setModified(home() / relative, m_now - age);
-        return home() / relative;
-    }
-
-private:
-    std::chrono::system_clock::time_point m_now = std::chrono::system_clock::now();
-};
-
-const std::string small(200, 's');
+class DuplicatesScannerTest : public DuplicatesFixture { };
 
 } // namespace
 
@@ -206,171 +180,6 @@ TEST_F(DuplicatesScannerTest, LargerFilesComeFirstAndEveryScanGivesTheSame)
         [](const ScanItem& left, const ScanItem& right) { return left.sizeInBytes > right.sizeInBytes; }));
     for (int i = 0; i < 5; ++i)
         EXPECT_EQ(urls(scanSmall()), urls(first));
-}
-
-TEST_F(DuplicatesScannerTest, LinksAreNeitherFollowedNorCompared)
-{
-    make("a", small);
-    writeFile(folder() / "outside/b", small);
-    std::filesystem::create_symlink(home() / "a", home() / "link");
-    std::filesystem::create_directory_symlink(folder() / "outside", home() / "folder link");
-    EXPECT_TRUE(scanSmall().empty());
-}
-
-TEST_F(DuplicatesScannerTest, NamesOfOneFileAreASet)
-{
-    make("a", small);
-    std::filesystem::create_hard_link(home() / "a", home() / "b");
-    EXPECT_EQ(scanSmall().size(), 2U);
-}
-
-TEST_F(DuplicatesScannerTest, SparseFilesAreJudgedByTheirLogicalSize)
-{
-    writeSparseFile(home() / "a", 3 * mebibyte);
-    writeSparseFile(home() / "b", 3 * mebibyte);
-    const auto items = scanHome();
-    ASSERT_EQ(items.size(), 2U);
-    EXPECT_EQ(items[0].sizeInBytes, 3 * mebibyte);
-}
-
-TEST_F(DuplicatesScannerTest, FilesThatCannotBeReadAreLeftOut)
-{
-    make("a", small);
-    make("b", small);
-    make("c", small);
-    giveToOrdinaryUser(folder().path());
-    std::filesystem::permissions(home() / "b", std::filesystem::perms::none);
-    const auto found = runAsOrdinaryUser([&] {
-        std::string names;
-        for (const auto& item : scanSmall())
-            names += item.url.filename().string();
-        return names;
-    });
-    EXPECT_TRUE(found == "ac" || found == "ca") << found;
-}
-
-TEST_F(DuplicatesScannerTest, FilesThatVanishBeforeTheyAreReadAreLeftOut)
-{
-    make("a", small);
-    make("b", small);
-    make("keep1", std::string(300, 'k'));
-    make("keep2", std::string(300, 'k'));
-    const auto vanish = [&](const ScanProgress& progress) {
-        if (progress.itemsFound == 1)
-            std::filesystem::remove(home() / "a");
-    };
-    const auto items = DuplicatesScanner(home(), 100, 1000).scan(host(), vanish, {});
-    EXPECT_EQ(items.size(), 2U);
-}
-
-TEST_F(DuplicatesScannerTest, FileReplacedByALinkOrAPipeBeforeItIsReadIsLeftOut)
-{
-    make("a", small);
-    make("b", small);
-    make("c", small);
-    make("keep1", std::string(300, 'k'));
-    make("keep2", std::string(300, 'k'));
-    const auto replace = [&](const ScanProgress& progress) {
-        if (progress.itemsFound != 1)
-            return;
-        std::filesystem::remove(home() / "a");
-        std::filesystem::create_symlink(home() / "c", home() / "a");
-        std::filesystem::remove(home() / "b");
-        ASSERT_EQ(mkfifo((home() / "b").c_str(), 0600), 0);
-    };
-    EXPECT_EQ(DuplicatesScanner(home(), 100, 1000).scan(host(), replace, {}).size(), 2U);
-}
-
-TEST_F(DuplicatesScannerTest, EmptyFilesAreASetWhenTheSmallestSizeAllowsIt)
-{
-    make("a", "");
-    make("b", "");
-    EXPECT_EQ(scan(DuplicatesScanner(home(), 0, 1000)).size(), 2U);
-    EXPECT_EQ(scan(DuplicatesScanner(home(), 0, 0)).size(), 2U);
-    EXPECT_TRUE(scan(DuplicatesScanner(home(), 1, 1000)).empty());
-}
-
-TEST_F(DuplicatesScannerTest, PrefixLargerThanOneReadIsComparedWhole)
-{
-    std::string content(9 * mebibyte, 'x');
-    make("a", content);
-    content[8 * mebibyte + 5] = 'y';
-    make("b", content);
-    EXPECT_TRUE(scan(DuplicatesScanner(home(), 100, 16 * mebibyte)).empty());
-    EXPECT_EQ(scan(DuplicatesScanner(home(), 100, 8 * mebibyte)).size(), 2U);
-}
-
-TEST_F(DuplicatesScannerTest, AnotherRootThanTheHomeFolderIsWalkedLessTheLibraryOfTheHome)
-{
-    make("Documents/a", small);
-    make("Documents/b", small);
-    make("Library/c", small);
-    EXPECT_EQ(scan(DuplicatesScanner(home() / "Documents", 100, 1000)).size(), 2U);
-    EXPECT_EQ(scan(DuplicatesScanner(folder().path(), 100, 1000)).size(), 2U);
-}
-
-TEST_F(DuplicatesScannerTest, RootInsideTheLibraryYieldsNothing)
-{
-    make("Library/Photos/a", small);
-    make("Library/Photos/b", small);
-    EXPECT_TRUE(scan(DuplicatesScanner(home() / "Library", 100, 1000)).empty());
-    EXPECT_TRUE(scan(DuplicatesScanner(home() / "Library/Photos", 100, 1000)).empty());
-}
-
-TEST_F(DuplicatesScannerTest, RootThatIsMissingOrRelativeYieldsNothing)
-{
-    make("a", small);
-    make("b", small);
-    const auto before = std::filesystem::current_path();
-    std::filesystem::current_path(folder().path());
-    for (const auto& wrong : { folder() / "missing", std::filesystem::path("home"), std::filesystem::path() })
-        EXPECT_TRUE(scan(DuplicatesScanner(wrong, 100, 1000)).empty()) << wrong;
-    std::filesystem::current_path(before);
-}
-
-TEST_F(DuplicatesScannerTest, NamesThatAreNoTextAreComparedAndShown)
-{
-    const auto original = make("bad\xff", small, 2h);
-    make("copy", small);
-    const auto items = scanSmall();
-    ASSERT_EQ(items.size(), 2U);
-    EXPECT_EQ(items[0].url, original);
-    EXPECT_EQ(items[0].displayName, "bad\uFFFD (original)");
-    EXPECT_EQ(items[0].category, "bad\uFFFD \u2014 2 copies, " + formattedBytes(200) + " each");
-}
-
-TEST_F(DuplicatesScannerTest, CancelledScanThrows)
-{
-    make("a", small);
-    const Cancellation cancellation;
-    cancellation.cancel();
-    EXPECT_THROW((void)scan(DuplicatesScanner(home()), cancellation), CancellationError);
-}
-
-TEST_F(DuplicatesScannerTest, CancelledWhileComparingThrowsBeforeTheNextSize)
-{
-    for (int i = 0; i < 5; ++i) {
-        make("a" + std::to_string(i), std::string(200 + static_cast<std::size_t>(i), 'x'));
-        make("b" + std::to_string(i), std::string(200 + static_cast<std::size_t>(i), 'x'));
-    }
-    const Cancellation cancellation;
-    std::int64_t found = 0;
-    const auto cancelAtSecond = [&](const ScanProgress& progress) {
-        found = progress.itemsFound;
-        if (found == 2)
-            cancellation.cancel();
-    };
-    EXPECT_THROW(
-        (void)DuplicatesScanner(home(), 100, 1000).scan(host(), cancelAtSecond, cancellation), CancellationError);
-    EXPECT_EQ(found, 2);
-}
-
-TEST_F(DuplicatesScannerTest, ScanChangesNothing)
-{
-    const Sentinel first(home() / "a/keep");
-    const Sentinel second(home() / "b/keep");
-    EXPECT_EQ(scan(DuplicatesScanner(home(), 1, 1000)).size(), 2U);
-    EXPECT_EQ(first.difference() + second.difference(), "");
 }
 
 } // namespace Korvane

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "Tests/CLI/ProgramRun.h"
+#include "Tests/Support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QByteArray>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace Korvane {
+
+/// Runs of the real program, and what they printed.
+class ProgramFixture : public testing::Test {
+protected:
+    ProgramFixture()
+    {
+        std::filesystem::create_directory(home());
+        std::filesystem::create_directory(folder / "tmp");
+    }
+
+    std::filesystem::path home() const { return folder / "home"; }
+    std::filesystem::path trashed(const std::string& name) const { return home() / ".local/share/Trash/files" / name; }
+
+    std::filesystem::path makeLog(const std::string& name, std::size_t bytes = 5000) const
+    {
+        writeFile(home() / "Library/Logs" / name, bytes);
+        return home() / "Library/Logs" / name;
+    }
+    std::filesystem::path makeSystemCache() const
+    {
+        writeFile(home() / "Library/Caches/com.apple.thing/data", std::size_t{ 9000 });
+        return home() / "Library/Caches/com.apple.thing";
+    }
+
+    /// Runs to the end; the exit status.
+    int run(const std::vector<std::string>& arguments, ProgramRun::Output standardOutput = ProgramRun::Output::Captured)
+    {
+        ProgramRun program(folder.path(), arguments, standardOutput);
+        program.finish();
+        output = program.output();
+        errors = program.errors();
+        return program.status();
+    }
+
+    /// The one JSON object that was printed.
+    QJsonObject json() const
+    {
+        QJsonParseError error;
+        const auto document = QJsonDocument::fromJson(QByteArray::fromStdString(output), &error);
+        EXPECT_EQ(error.error, QJsonParseError::NoError) << output;
+        return document.object();
+    }
+
+    static std::string text(const QJsonValue& value) { return value.toString().toStdString(); }
+
+    TemporaryFolder folder;
+    std::string output;
+    std::string errors;
+};
+
+} // namespace Korvane
