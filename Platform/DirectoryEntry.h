@@ -11,7 +11,7 @@
 
 namespace Korvane {
 
-class Folder;
+class WalkFolder;
 
 /// What kind of thing a directory entry names; a link is a link, whatever it points to.
 enum class EntryType : std::uint8_t { Unknown, RegularFile, Directory, SymbolicLink, Other };
@@ -48,7 +48,7 @@ private:
     friend class DirectoryEnumerator;
 
     std::string_view m_name;
-    const Folder* m_folder = nullptr;
+    const WalkFolder* m_folder = nullptr;
     ResourceValues m_values;
     EntryType m_type = EntryType::Unknown;
     bool m_isPackage = false;

@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Platform/Walking/DescriptorCache.h"
+
+#include "Platform/Walking/DirectoryReader.h"
+#include "Platform/Walking/WalkFolder.h"
+
+#include <chrono>
+#include <thread>
+#include <utility>
+
+namespace Korvane {
+
+namespace {
+
+/// How often opening is tried while the process is out of descriptors: other readers give theirs back soon.
+constexpr int attemptsWithoutDescriptors = 200;
+constexpr std::chrono::milliseconds pauseWithoutDescriptors{ 1 };
+
+/// The longest relative path handed to the system at once; PATH_MAX is 1024 on macOS, 4096 on Linux.
+constexpr std::size_t longestRelativePath = 1000;
+
+} // namespace
+
+DescriptorCache::DescriptorCache()
+    : m_limit(DirectoryReader::descriptorsToKeep())
+{
+}
+
+std::error_code DescriptorCache::openRoot(WalkFolder& root)
+{
+    std::error_code error;
+    root.m_descriptor = DirectoryReader::openPath(root.name(), error);
+    root.m_pins = 1;
+    return error;
+}
+
+int DescriptorCache::pin(WalkFolder& folder, std::error_code& error)
+{
+    WalkFolder* ancestor = nullptr;
+    {
+        const std::lock_guard lock(m_mutex);
+        ancestor = &folder;
+        while (ancestor->m_descriptor < 0)
+            ancestor = ancestor->m_parent.get();
+        if (ancestor->m_pins++ == 0)
+            unlink(*ancestor);
+        if (ancestor == &folder)
+            return folder.m_descriptor;
+    }
+    return openBelow(*ancestor, folder, error);
+}
+
+int DescriptorCache::openBelow(WalkFolder& ancestor, WalkFolder& folder, std::error_code& error)
+{
+    std::vector<WalkFolder*> chain; // From the folder up to the ancestor, which is left out.
+    for (WalkFolder* step = &folder; step != &ancestor; step = step->m_parent.get())
+        chain.push_back(step);
+    WalkFolder* from = &ancestor;
+    while (!chain.empty()) {
+        std::string relative = chain.back()->m_name;
+        WalkFolder* target = chain.back();
+        chain.pop_back();
+        bool isSingle = true;
+        while (DirectoryReader::opensSeveralLevels() && !chain.empty()
+            && relative.size() + chain.back()->m_name.size() < longestRelativePath) {
+            target = chain.back();
+            relative.append("/").append(target->m_name);
+            chain.pop_back();
+            isSingle = false;
+        }
+        const int opened = openRetrying(from->m_descriptor, relative, isSingle, error);
+        const int descriptor = opened < 0 ? -1 : install(*target, opened);
+        release(*from, Keep::Yes);
+        if (descriptor < 0)
+            return -1;
+        from = target;
+    }
+    return folder.m_descriptor;
+}
+
+int DescriptorCache::openRetrying(int parent, const std::string& relative, bool isSingle, std::error_code& error)
+{
+    for (int attempt = 0;; ++attempt) {
+        const int descriptor = DirectoryReader::openFolder(parent, relative.c_str(), isSingle, error);
+        const bool isOutOfDescriptors
+            = error == std::errc::too_many_files_open || error == std::errc::too_many_files_open_in_system;
+        if (descriptor >= 0 || !isOutOfDescriptors || attempt == attemptsWithoutDescriptors)
+            return descriptor;
+        {
+            const std::lock_guard lock(m_mutex);
+            closeKept(0);
+        }
+        if (attempt > 0)
+            std::this_thread::sleep_for(pauseWithoutDescriptors);
+    }
+}
+
+int DescriptorCache::install(WalkFolder& folder, int descriptor)
+{
+    std::unique_lock lock(m_mutex);
+    if (folder.m_descriptor >= 0) { // Another reader was faster.
+        if (folder.m_pins++ == 0)
+            unlink(folder);
+        lock.unlock();
+        DirectoryReader::close(descriptor);
+        return folder.m_descriptor;
+    }
+    if (folder.m_position != 0)
+        DirectoryReader::resume(descriptor, folder.m_position);
+    folder.m_descriptor = descriptor;
+    folder.m_pins = 1;
+    return descriptor;
+}
+
+void DescriptorCache::markPosition(WalkFolder& folder, const DirectoryReader& reader)
+{
+    const std::lock_guard lock(m_mutex);
+    folder.m_position = reader.positionAfter(folder.m_descriptor, folder.m_position);
+}
+
+void DescriptorCache::release(WalkFolder& folder, Keep keep)
+{
+    int closing = -1;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (--folder.m_pins > 0)
+            return;
+        if (keep == Keep::Yes) {
+            link(folder);
+            closeKept(m_limit);
+        } else {
+            closing = std::exchange(folder.m_descriptor, -1);
+        }
+    }
+    if (closing >= 0)
+        DirectoryReader::close(closing);
+}
+
+void DescriptorCache::closeKept(std::size_t remaining)
+{
+    while (m_kept > remaining) {
+        WalkFolder& folder = *m_oldest;
+        unlink(folder);
+        DirectoryReader::close(std::exchange(folder.m_descriptor, -1));
+    }
+}
+
+void DescriptorCache::forget(WalkFolder& folder) noexcept
+{
+    int closing = -1;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (folder.m_descriptor >= 0 && folder.m_pins == 0)
+            unlink(folder);
+        closing = std::exchange(folder.m_descriptor, -1);
+    }
+    if (closing >= 0)
+        DirectoryReader::close(closing);
+}
+
+void DescriptorCache::link(WalkFolder& folder) noexcept
+{
+    folder.m_older = m_newest;
+    folder.m_newer = nullptr;
+    (m_newest ? m_newest->m_newer : m_oldest) = &folder;
+    m_newest = &folder;
+    ++m_kept;
+}
+
+void DescriptorCache::unlink(WalkFolder& folder) noexcept
+{
+    (folder.m_older ? folder.m_older->m_newer : m_oldest) = folder.m_newer;
+    (folder.m_newer ? folder.m_newer->m_older : m_newest) = folder.m_older;
+    folder.m_older = folder.m_newer = nullptr;
+    --m_kept;
+}
+
+} // namespace Korvane
