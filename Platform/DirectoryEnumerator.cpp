@@ -3,8 +3,8 @@
 
 #include "Platform/DirectoryEnumerator.h"
 
-#include "Platform/Walking/WalkFolder.h"
 #include "Platform/Walking/ReadAhead.h"
+#include "Platform/Walking/WalkFolder.h"
 
 #include <utility>
 #include <vector>
@@ -105,7 +105,8 @@ void DirectoryEnumerator::Walk::deliver(Level& level)
 
 void DirectoryEnumerator::Walk::skipDescendants()
 {
-    if (m_entered)
+    const bool isBeforeFirst = m_entered && !m_entered->folder->parent();
+    if (m_entered && !isBeforeFirst)
         m_ahead->discard({ std::exchange(m_entered, nullptr) });
 }
 

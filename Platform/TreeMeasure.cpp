@@ -6,9 +6,9 @@
 #include "Platform/Checked.h"
 #include "Platform/Walking/DescriptorCache.h"
 #include "Platform/Walking/DirectoryReader.h"
-#include "Platform/Walking/WalkFolder.h"
 #include "Platform/Walking/ReaderDemand.h"
 #include "Platform/Walking/ReaderPool.h"
+#include "Platform/Walking/WalkFolder.h"
 
 #include <condition_variable>
 #include <iterator>
@@ -42,8 +42,8 @@ public:
 private:
     void drain(Folders& own);
     void readPart(const WalkFolderReference& folder, Folders& own, DirectoryReader& reader, std::int64_t& sum);
-    void addEntries(
-        const WalkFolderReference& folder, int descriptor, Folders& own, DirectoryReader& reader, std::int64_t& sum) const;
+    void addEntries(const WalkFolderReference& folder, int descriptor, Folders& own, DirectoryReader& reader,
+        std::int64_t& sum) const;
     void goOnLater(const WalkFolderReference& folder, Folders& own, const DirectoryReader& reader);
     bool takeShared(Folders& own);
     bool isAskedToShare();

@@ -3,9 +3,9 @@
 
 #include "Platform/Walking/ReadAhead.h"
 
-#include "Platform/Walking/WalkFolder.h"
 #include "Platform/PackageExtensions.h"
 #include "Platform/Walking/ReaderPool.h"
+#include "Platform/Walking/WalkFolder.h"
 
 #include <chrono>
 #include <iterator>

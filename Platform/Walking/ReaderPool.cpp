@@ -8,12 +8,39 @@
 #include <system_error>
 #include <utility>
 
+#include <pthread.h>
+
 namespace Korvane {
+
+namespace {
+
+/// True in a child process that was forked after the pool was made: its threads, and whoever held its lock, are not
+/// there. Such a child reads everything by itself.
+std::atomic<bool> isForkedChild{ false };
+
+/// Ends the pool with the program, but not that of the parent with a child.
+struct PoolOwner {
+    PoolOwner()
+    {
+        pthread_atfork(nullptr, nullptr, [] { isForkedChild = true; });
+    }
+    ~PoolOwner()
+    {
+        if (!isForkedChild)
+            delete pool;
+    }
+    PoolOwner(const PoolOwner&) = delete;
+    PoolOwner& operator=(const PoolOwner&) = delete;
+
+    ReaderPool* pool = new ReaderPool;
+};
+
+} // namespace
 
 ReaderPool& ReaderPool::shared()
 {
-    static ReaderPool pool;
-    return pool;
+    static PoolOwner owner;
+    return *owner.pool;
 }
 
 ReaderPool::ReaderPool() { m_threads.reserve(DirectoryReader::readerCount()); }
@@ -32,6 +59,8 @@ ReaderPool::~ReaderPool()
 
 void ReaderPool::invite(std::shared_ptr<ReaderJob> job)
 {
+    if (isForkedChild)
+        return;
     {
         const std::lock_guard lock(m_mutex);
         if (isStopping())

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "Platform/Walking/DirectoryReader.h"
 #include "Platform/EnumerationOptions.h"
+#include "Platform/Walking/DirectoryReader.h"
 
 #include <filesystem>
 #include <string>
