@@ -89,9 +89,18 @@ public:
         }
     }
 
-    bool setBool(std::string_view key, bool value) override { return store(key, @(static_cast<BOOL>(value))); }
-    bool setInteger(std::string_view key, std::int64_t value) override { return store(key, @(value)); }
-    bool setDouble(std::string_view key, double value) override { return store(key, @(value)); }
+    bool setBool(std::string_view key, bool value) override
+    {
+        return store(key, [NSNumber numberWithBool:value ? YES : NO]);
+    }
+    bool setInteger(std::string_view key, std::int64_t value) override
+    {
+        return store(key, [NSNumber numberWithLongLong:value]);
+    }
+    bool setDouble(std::string_view key, double value) override
+    {
+        return store(key, [NSNumber numberWithDouble:value]);
+    }
 
     std::unique_ptr<Observation> observe(std::function<void(std::string_view key)> changed) override
     {

@@ -9,6 +9,8 @@ namespace Korvane {
 
 std::optional<VolumeCapacity> volumeCapacity(const std::filesystem::path& path)
 {
+    if (path.empty())
+        return std::nullopt;
     @autoreleasepool {
         NSURL* url = [NSURL fileURLWithFileSystemRepresentation:path.c_str() isDirectory:YES relativeToURL:nil];
         NSArray<NSURLResourceKey>* keys =

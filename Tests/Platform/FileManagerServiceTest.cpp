@@ -19,6 +19,13 @@
 
 #include <array>
 
+/// Read by the thread sanitizer: the distribution's libraries are not built for it, so that it sees the memory which
+/// Qt's bus thread shares with the main thread, and not the locks that guard it.
+extern "C" const char* __tsan_default_suppressions()
+{
+    return "race:libQt6DBus.so\nrace:libQt6Core.so\nrace:libdbus-1.so\ndeadlock:libdbus-1.so\nmutex:libdbus-1.so\n";
+}
+
 namespace Korvane {
 namespace {
 
