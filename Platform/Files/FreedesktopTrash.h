@@ -31,4 +31,7 @@ FreedesktopTrash openHomeTrash(const ItemPlace& item, const Environment& environ
 /// else ".Trash-$uid", made when it is not there. Throws FileError, also when it is not this user's own.
 FreedesktopTrash openVolumeTrash(const ItemPlace& item);
 
+/// Moves the item there, its record first, and returns where it lies now. Throws FileError and leaves all as it was.
+std::filesystem::path moveToTrash(const ItemPlace& item, const FreedesktopTrash& trash);
+
 } // namespace Korvane

@@ -67,7 +67,9 @@ int moveAs(const ItemPlace& item, const FreedesktopTrash& trash, TrashRecord& re
     return keepRecord(item, trash, record, text);
 }
 
-std::filesystem::path moveInto(const FreedesktopTrash& trash, const ItemPlace& item)
+} // namespace
+
+std::filesystem::path moveToTrash(const ItemPlace& item, const FreedesktopTrash& trash)
 {
     const std::string text = trashInfoText(trash.recordedPath, std::time(nullptr));
     const std::size_t limit = longestName(trash.info.get());
@@ -81,8 +83,6 @@ std::filesystem::path moveInto(const FreedesktopTrash& trash, const ItemPlace& i
     throw FileError(item.path, std::error_code(error, std::system_category()));
 }
 
-} // namespace
-
 std::vector<std::filesystem::path> hostTrashDirectories(const Environment& environment)
 {
     return { environment.dataHome() / "Trash" };
@@ -92,14 +92,14 @@ std::filesystem::path moveToHostTrash(const ItemPlace& item, const Environment& 
 {
     if (isOnVolumeOfHomeTrash(item, environment)) {
         try {
-            return moveInto(openHomeTrash(item, environment), item);
+            return moveToTrash(item, openHomeTrash(item, environment));
         } catch (const FileError& error) {
             // Within one file system there are borders as well, which only the attempt to cross them shows.
             if (error.code().value() != EXDEV)
                 throw;
         }
     }
-    return moveInto(openVolumeTrash(item), item);
+    return moveToTrash(item, openVolumeTrash(item));
 }
 
 } // namespace Korvane
