@@ -62,10 +62,11 @@ public:
     void emptyTrash(const std::filesystem::path& trash) override
     {
         const auto others = hostTrashDirectories(m_environment);
+        ProtectedPlaces protectedPlaces(m_environment.home);
         if (trash == m_environment.home / ".Trash")
-            emptyFolder(trash, ProtectedPlaces(m_environment.home));
+            emptyFolder(trash, protectedPlaces);
         else if (std::find(others.begin(), others.end(), trash) != others.end())
-            emptyHostTrash(trash, ProtectedPlaces(m_environment.home));
+            emptyHostTrash(trash, protectedPlaces);
         else
             throw FileError(trash, std::make_error_code(std::errc::invalid_argument),
                 "“" + displayText(trash) + "” is not a Trash of this user.");
@@ -74,10 +75,8 @@ public:
 private:
     ItemPlace findRemovable(const std::filesystem::path& path) const
     {
-        // A home folder is refused by its name even when it is not there.
-        const ProtectedPlaces protectedPlaces(m_environment.home);
         ItemPlace item = findItem(path);
-        protectedPlaces.check(item);
+        ProtectedPlaces(m_environment.home).check(item);
         return item;
     }
 

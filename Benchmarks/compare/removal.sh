@@ -3,7 +3,7 @@
 # shellcheck shell=bash
 #
 # Jobs of removing and of moving to the Trash; sourced by compare.sh. Every run gets a tree of its own, made untimed.
-JOBS+=(remove_memory remove_disk remove_flat trash_memory trash_disk)
+JOBS+=(remove_memory remove_ext4 remove_disk remove_flat trash_memory trash_disk)
 
 removal_files=200000 removal_folders=9400 trash_items=10000
 
@@ -23,6 +23,22 @@ job_remove_memory() {
     remove_contestants "$place/tree"
     finish
     rm -rf "$place"
+}
+
+# A real file system with its journal, on a device whose speed is the memory's: what the disk adds is left out.
+job_remove_ext4() {
+    local image place
+    ((EUID == 0)) || { echo "remove_ext4: only root can mount an image" >&2; return; }
+    image=$(mktemp /dev/shm/korvane-compare.XXXXXX) place=$(mktemp -d "$work/ext4.XXXXXX")
+    truncate -s 6G "$image"
+    mkfs.ext4 -q -N 400000 -E lazy_itable_init=0 "$image"
+    mount -o loop "$image" "$place"
+    begin "Remove $removal_files files in $removal_folders folders, ext4 on a device in memory"
+    before="rm -rf $place/tree && \$tools/bench-make-tree $place/tree $removal_files $removal_folders 40 && sync -f $place"
+    remove_contestants "$place/tree"
+    finish
+    umount "$place"
+    rm -rf "$image" "$place"
 }
 
 job_remove_disk() {

@@ -60,8 +60,7 @@ std::vector<std::string> FolderContents::names() const
     return names;
 }
 
-void FolderContents::removeForGood(
-    const std::string& name, const ProtectedPlaces& protectedPlaces, Vanished vanished) const
+void FolderContents::removeForGood(const std::string& name, ProtectedPlaces& protectedPlaces, Vanished vanished) const
 {
     ItemPlace item;
     item.path = m_path / name;
@@ -80,7 +79,7 @@ void FolderContents::removeForGood(
         throw FileError(*failure);
 }
 
-void emptyFolder(const std::filesystem::path& folder, const ProtectedPlaces& protectedPlaces)
+void emptyFolder(const std::filesystem::path& folder, ProtectedPlaces& protectedPlaces)
 {
     const FolderContents contents(folder);
     if (!contents)

@@ -34,7 +34,7 @@ public:
     std::vector<std::string> names() const;
 
     /// Deletes one entry for good; throws FileError.
-    void removeForGood(const std::string& name, const ProtectedPlaces& protectedPlaces, Vanished vanished) const;
+    void removeForGood(const std::string& name, ProtectedPlaces& protectedPlaces, Vanished vanished) const;
 
 private:
     FolderContents(std::filesystem::path path, int parent, const char* name);

@@ -8,6 +8,7 @@
 #include "Platform/Files/ItemPlace.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 
 namespace Korvane {
@@ -21,11 +22,9 @@ struct FreedesktopTrash {
     std::string recordedPath; ///< What the record of the item says it was, for this folder.
 };
 
-/// Whether the item is on the same file system and mount as the Trash of the home folder is, or would be.
-bool isOnVolumeOfHomeTrash(const ItemPlace& item, const Environment& environment);
-
-/// The Trash of the home folder, made when it is not there. Throws FileError, also when the item holds it.
-FreedesktopTrash openHomeTrash(const ItemPlace& item, const Environment& environment);
+/// The Trash of the home folder, made when it is not there; nothing when the item is on another volume or mount than
+/// it. Throws FileError, also when the item holds it.
+std::optional<FreedesktopTrash> openHomeTrash(const ItemPlace& item, const Environment& environment);
 
 /// The Trash at the top of the volume that the item is on: ".Trash/$uid" where an administrator prepared ".Trash",
 /// else ".Trash-$uid", made when it is not there. Throws FileError, also when it is not this user's own.

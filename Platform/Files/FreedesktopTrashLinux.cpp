@@ -50,6 +50,8 @@ int openExisting(std::filesystem::path path, FileDescriptor& folder, std::vector
 
 void refuseToHoldItself(const ItemPlace& item, const FileDescriptor& trash)
 {
+    if (!item.status.isDirectory)
+        return;
     FileDescriptor folder;
     int error = openForTraversal(trash.get(), ".", Links::NotFollowed, folder);
     FileIdentity last;
@@ -73,7 +75,6 @@ void refuseToHoldItself(const ItemPlace& item, const FileDescriptor& trash)
 
 void openParts(const ItemPlace& item, FreedesktopTrash& trash)
 {
-    refuseToHoldItself(item, trash.folder);
     if (const int error = openOrMake(trash.folder.get(), "files", trash.files))
         failAt(item, error, trash.path / "files");
     if (const int error = openOrMake(trash.folder.get(), "info", trash.info))
@@ -101,6 +102,13 @@ void openTop(const ItemPlace& item, FileDescriptor& top)
         failAt(item, error, item.path);
 }
 
+bool isOnVolumeOf(const ItemPlace& item, const FileDescriptor& folder)
+{
+    EntryStatus status;
+    return readStatus(folder.get(), "", Links::NotFollowed, status) == 0
+        && status.identity.device == item.parentStatus.identity.device && status.mount == item.parentStatus.mount;
+}
+
 bool isOwn(const FileDescriptor& folder)
 {
     EntryStatus status;
@@ -120,25 +128,15 @@ bool openSharedTrash(const FileDescriptor& top, const std::string& user, FileDes
 
 } // namespace
 
-bool isOnVolumeOfHomeTrash(const ItemPlace& item, const Environment& environment)
-{
-    FileDescriptor folder;
-    std::vector<std::string> missing;
-    EntryStatus status;
-    const int error = openExisting(environment.dataHome() / "Trash", folder, missing);
-    if (error != 0 || readStatus(folder.get(), "", Links::NotFollowed, status) != 0)
-        return false;
-    return status.identity.device == item.parentStatus.identity.device && status.mount == item.parentStatus.mount;
-}
-
-FreedesktopTrash openHomeTrash(const ItemPlace& item, const Environment& environment)
+std::optional<FreedesktopTrash> openHomeTrash(const ItemPlace& item, const Environment& environment)
 {
     FreedesktopTrash trash;
     trash.path = environment.dataHome() / "Trash";
     std::vector<std::string> missing;
     int error = openExisting(trash.path, trash.folder, missing);
-    if (error == 0)
-        refuseToHoldItself(item, trash.folder);
+    if (error != 0 || !isOnVolumeOf(item, trash.folder))
+        return std::nullopt;
+    refuseToHoldItself(item, trash.folder);
     for (; error == 0 && !missing.empty(); missing.pop_back()) {
         FileDescriptor next;
         error = openOrMake(trash.folder.get(), missing.back().c_str(), next);
@@ -170,6 +168,7 @@ FreedesktopTrash openVolumeTrash(const ItemPlace& item)
         if (error != 0)
             failAt(item, error, trash.path);
     }
+    refuseToHoldItself(item, trash.folder);
     openParts(item, trash);
     trash.recordedPath = originalPathBelow(item, top.get());
     return trash;

@@ -21,38 +21,38 @@ namespace {
 } // namespace
 
 ProtectedPlaces::ProtectedPlaces(const std::filesystem::path& home)
+    : m_home(home)
 {
     if (!home.is_absolute())
         return;
-    addNames(home);
-    addFoldersAbove(home);
+    for (std::filesystem::path place = home.lexically_normal(); place.has_relative_path();
+         place = place.parent_path()) {
+        if (place.has_filename())
+            m_names.push_back(place.native());
+    }
 }
 
 /// The home folder and what holds it by name: links on the way are protected as well as what they lead to.
-void ProtectedPlaces::addNames(const std::filesystem::path& home)
+void ProtectedPlaces::addNamedPlaces()
 {
-    std::filesystem::path place = home.lexically_normal();
-    for (; place.has_relative_path(); place = place.parent_path()) {
-        if (!place.has_filename())
-            continue;
-        m_names.push_back(place.native());
+    for (const std::string& name : m_names) {
         EntryStatus status;
-        if (readStatus(AT_FDCWD, place.c_str(), Links::NotFollowed, status) == 0)
+        if (readStatus(AT_FDCWD, name.c_str(), Links::NotFollowed, status) == 0)
             m_identities.push_back(status.identity);
     }
 }
 
 /// The home folder and what really holds it, from the folder upwards to the root.
-void ProtectedPlaces::addFoldersAbove(const std::filesystem::path& home)
+void ProtectedPlaces::addFoldersAbove()
 {
     FileDescriptor folder;
-    if (openForTraversal(home.native(), folder) != 0)
+    if (m_names.empty() || openForTraversal(m_home.native(), folder) != 0)
         return;
+    FileIdentity below;
     EntryStatus status;
-    while (readStatus(folder.get(), "", Links::NotFollowed, status) == 0) {
-        if (!m_identities.empty() && m_identities.back() == status.identity)
-            return;
-        m_identities.push_back(status.identity);
+    while (readStatus(folder.get(), "", Links::NotFollowed, status) == 0 && !(status.identity == below)) {
+        below = status.identity;
+        m_identities.push_back(below);
         FileDescriptor above;
         if (openForTraversal(folder.get(), "..", Links::NotFollowed, above) != 0)
             return;
@@ -60,11 +60,26 @@ void ProtectedPlaces::addFoldersAbove(const std::filesystem::path& home)
     }
 }
 
-void ProtectedPlaces::check(const ItemPlace& item) const
+bool ProtectedPlaces::isNamed(const ItemPlace& item) const
 {
-    const auto holds
-        = [](const auto& list, const auto& value) { return std::find(list.begin(), list.end(), value) != list.end(); };
-    if (holds(m_names, item.path.lexically_normal().native()) || holds(m_identities, item.status.identity))
+    return std::find(m_names.begin(), m_names.end(), item.path.lexically_normal().native()) != m_names.end();
+}
+
+bool ProtectedPlaces::isIdentical(const ItemPlace& item)
+{
+    // Nothing else than a folder, or a link in a home folder's path, can be one of these places.
+    if (!item.status.isDirectory && !item.status.isLink)
+        return false;
+    if (m_identities.empty()) {
+        addNamedPlaces();
+        addFoldersAbove();
+    }
+    return std::find(m_identities.begin(), m_identities.end(), item.status.identity) != m_identities.end();
+}
+
+void ProtectedPlaces::check(const ItemPlace& item)
+{
+    if (isNamed(item) || isIdentical(item))
         refuse(item, std::errc::operation_not_permitted, "is the home folder, or holds it, and is never removed.");
     if (item.parentStatus.leadsOffMountTo(item.status))
         refuse(item, std::errc::device_or_resource_busy, "is where a volume is mounted, and is never removed.");

@@ -19,10 +19,10 @@ std::vector<std::filesystem::path> hostTrashDirectories(const Environment& envir
 std::filesystem::path moveToHostTrash(const ItemPlace& item, const Environment& environment);
 
 /// Empties one of hostTrashDirectories(); throws the first FileError.
-void emptyHostTrash(const std::filesystem::path& trash, const ProtectedPlaces& protectedPlaces);
+void emptyHostTrash(const std::filesystem::path& trash, ProtectedPlaces& protectedPlaces);
 
 /// Deletes what lies directly in a folder, in the order of the file system; throws the first FileError.
 /// A folder that cannot be listed counts as empty; a link in its place is an error.
-void emptyFolder(const std::filesystem::path& folder, const ProtectedPlaces& protectedPlaces);
+void emptyFolder(const std::filesystem::path& folder, ProtectedPlaces& protectedPlaces);
 
 } // namespace Korvane

@@ -42,7 +42,7 @@ bool isRemains(int info, const std::string& name)
 }
 
 /// Deletes the items, and each one's record once it is gone.
-void emptyFiles(const FolderContents& files, const FolderContents& info, const ProtectedPlaces& protectedPlaces)
+void emptyFiles(const FolderContents& files, const FolderContents& info, ProtectedPlaces& protectedPlaces)
 {
     for (const std::string& name : files.names()) {
         files.removeForGood(name, protectedPlaces, FolderContents::Vanished::Accepted);
@@ -53,7 +53,7 @@ void emptyFiles(const FolderContents& files, const FolderContents& info, const P
 }
 
 /// Deletes the records that no item belongs to.
-void emptyRecords(const FolderContents& files, const FolderContents& info, const ProtectedPlaces& protectedPlaces)
+void emptyRecords(const FolderContents& files, const FolderContents& info, ProtectedPlaces& protectedPlaces)
 {
     const auto hasItem = [&](const std::string& name) {
         EntryStatus status;
@@ -74,7 +74,7 @@ void emptyRecords(const FolderContents& files, const FolderContents& info, const
 
 } // namespace
 
-void emptyHostTrash(const std::filesystem::path& trash, const ProtectedPlaces& protectedPlaces)
+void emptyHostTrash(const std::filesystem::path& trash, ProtectedPlaces& protectedPlaces)
 {
     const FolderContents folder(trash);
     if (!folder)

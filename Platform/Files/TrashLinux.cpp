@@ -90,9 +90,9 @@ std::vector<std::filesystem::path> hostTrashDirectories(const Environment& envir
 
 std::filesystem::path moveToHostTrash(const ItemPlace& item, const Environment& environment)
 {
-    if (isOnVolumeOfHomeTrash(item, environment)) {
+    if (const auto trash = openHomeTrash(item, environment)) {
         try {
-            return moveToTrash(item, openHomeTrash(item, environment));
+            return moveToTrash(item, *trash);
         } catch (const FileError& error) {
             // Within one file system there are borders as well, which only the attempt to cross them shows.
             if (error.code().value() != EXDEV)

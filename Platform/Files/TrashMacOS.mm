@@ -43,7 +43,7 @@ std::filesystem::path moveToHostTrash(const ItemPlace& item, const Environment&)
     }
 }
 
-void emptyHostTrash(const std::filesystem::path& trash, const ProtectedPlaces& protectedPlaces)
+void emptyHostTrash(const std::filesystem::path& trash, ProtectedPlaces& protectedPlaces)
 {
     emptyFolder(trash, protectedPlaces);
 }
