@@ -12,6 +12,8 @@ Window {
     id: window
 
     required property ContentViewModel viewModel
+    /// Made when it is first asked for.
+    property SettingsView settings: null
 
     title: qsTr("Korvane")
     width: 1080
@@ -22,11 +24,13 @@ Window {
     color: Theme.window
 
     function showSettings(): void {
-        settings.active = true;
-        const view = settings.item as Window;
-        view.show();
-        view.raise();
-        view.requestActivate();
+        if (window.settings === null)
+            window.settings = settingsComponent.createObject(window, {
+                "viewModel": window.viewModel.settings
+            }) as SettingsView;
+        window.settings.show();
+        window.settings.raise();
+        window.settings.requestActivate();
     }
 
     Shortcut {
@@ -70,12 +74,10 @@ Window {
         anchors.bottom: parent.bottom
         viewModel: window.viewModel
     }
-    Loader {
-        id: settings
+    Component {
+        id: settingsComponent
 
-        active: false
-        sourceComponent: SettingsView {
-            viewModel: window.viewModel.settings
+        SettingsView {
             transientParent: window
         }
     }

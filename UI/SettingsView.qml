@@ -16,7 +16,7 @@ Window {
 
     title: qsTr("Settings")
     width: 520
-    height: 400
+    height: 344
     minimumWidth: width
     maximumWidth: width
     minimumHeight: height

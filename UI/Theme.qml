@@ -27,8 +27,8 @@ QtObject {
 
     // Text. Each reaches 4.5:1 on every background below.
     readonly property color label: dark ? "#f5f5f7" : "#1d1d1f"
-    readonly property color secondaryLabel: highContrast ? label : dark ? "#b4b4bc" : "#56565c"
-    readonly property color tertiaryLabel: highContrast ? label : dark ? "#a0a0a8" : "#636369"
+    readonly property color secondaryLabel: highContrast ? label : dark ? "#bcbcc4" : "#515157"
+    readonly property color tertiaryLabel: highContrast ? label : dark ? "#ababb3" : "#5e5e64"
     readonly property color linkLabel: dark ? "#5eb0ff" : "#005ecb"
     readonly property color warningLabel: dark ? "#ffb340" : "#8f4700"
     readonly property color errorLabel: dark ? "#ff8a80" : "#b3140a"

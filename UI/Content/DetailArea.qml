@@ -31,13 +31,10 @@ Item {
             visible: detail.viewModel.selectedModule === null
             viewModel: detail.viewModel.dashboard
         }
-        Loader {
+        ModuleOverview {
             anchors.fill: parent
-            active: detail.viewModel.selectedModule !== null
-            visible: active
-            sourceComponent: ModuleOverview {
-                module: detail.viewModel.selectedModule
-            }
+            visible: module !== null
+            module: detail.viewModel.selectedModule
         }
     }
 }

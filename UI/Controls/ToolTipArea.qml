@@ -12,6 +12,7 @@ Item {
     id: area
 
     required property string text
+    property T.ToolTip bubble: null
 
     anchors.fill: parent
 
@@ -19,15 +20,22 @@ Item {
         id: hover
     }
     Timer {
-        id: rest
-
         interval: 600
         running: hover.hovered && area.text !== ""
+        onTriggered: area.bubble = bubbleComponent.createObject(area) as T.ToolTip
     }
-    Loader {
-        active: hover.hovered && !rest.running && area.text !== ""
+    Connections {
+        target: hover
 
-        sourceComponent: T.ToolTip {
+        function onHoveredChanged(): void {
+            if (area.bubble !== null)
+                area.bubble.destroy();
+        }
+    }
+    Component {
+        id: bubbleComponent
+
+        T.ToolTip {
             id: tip
 
             parent: area

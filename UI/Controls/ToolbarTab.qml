@@ -48,7 +48,7 @@ T.TabButton {
 
     background: Rectangle {
         radius: Theme.radius
-        color: tab.checked ? Theme.pressedFill : tab.hovered ? Theme.hoverFill : "transparent"
+        color: tab.checked || tab.hovered ? Theme.hoverFill : "transparent"
 
         FocusRing {
             shown: tab.visualFocus

@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "App/KorvaneApp.h"
+#include "Tests/Support/TestHost.h"
+#include "Tests/UI/Support/QmlWarnings.h"
+#include "UI/PreferenceKeys.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+using namespace Korvane;
+
+namespace {
+
+QStringList visibleTexts(const QMenu& menu)
+{
+    QStringList texts;
+    for (const QAction* action : menu.actions()) {
+        if (action->isVisible() && !action->isSeparator())
+            texts.append(action->text());
+    }
+    return texts;
+}
+
+QAction* command(const QMenu& menu, const QString& text)
+{
+    for (QAction* action : menu.actions()) {
+        if (action->text() == text)
+            return action;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class KorvaneAppTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void opensTheMainWindowWithoutWarnings();
+    void theMenuTellsTheLastCleanupOnceThereIsOne();
+    void theMenuOpensAClosedWindow();
+    void theMenuScansSystemJunkInAClosedWindow();
+    void endsWithItsLastWindowWhereThereIsNoTray();
+};
+
+void KorvaneAppTest::opensTheMainWindowWithoutWarnings()
+{
+    const TemporaryFolder folder;
+    const QmlWarnings warnings;
+    KorvaneApp korvane(makeTestHost(folder).host);
+    QVERIFY(korvane.start());
+    QVERIFY(QTest::qWaitForWindowExposed(korvane.mainWindow()));
+    QCOMPARE(korvane.mainWindow()->title(), QStringLiteral("Korvane"));
+    QCOMPARE(korvane.mainWindow()->minimumSize(), QSize(960, 620));
+    QCOMPARE(warnings.texts(), QStringList());
+}
+
+void KorvaneAppTest::theMenuTellsTheLastCleanupOnceThereIsOne()
+{
+    const TemporaryFolder folder;
+    const TestHost test = makeTestHost(folder);
+    const TrayIcon tray(test.host.defaults);
+    const QStringList commands{ QStringLiteral("Open Korvane"), QStringLiteral("Scan System Junk"),
+        QStringLiteral("Quit Korvane") };
+    QCOMPARE(visibleTexts(tray.menu()), commands);
+    QVERIFY(test.host.defaults->setInteger(PreferenceKeys::lastCleanedBytes, 2'500'000));
+    QVERIFY(test.host.defaults->setDouble(PreferenceKeys::lastCleanedDate, 1'700'000'000.0));
+    QCOMPARE(visibleTexts(tray.menu()), QStringList(QStringLiteral("Last cleanup: 2.5 MB")) + commands);
+}
+
+void KorvaneAppTest::theMenuOpensAClosedWindow()
+{
+    const TemporaryFolder folder;
+    KorvaneApp korvane(makeTestHost(folder).host);
+    QVERIFY(korvane.start());
+    korvane.mainWindow()->close();
+    QVERIFY(!korvane.mainWindow()->isVisible());
+    command(korvane.trayIcon().menu(), QStringLiteral("Open Korvane"))->trigger();
+    QVERIFY(korvane.mainWindow()->isVisible());
+    QVERIFY(!korvane.state().selectedModule());
+}
+
+void KorvaneAppTest::theMenuScansSystemJunkInAClosedWindow()
+{
+    const TemporaryFolder folder;
+    KorvaneApp korvane(makeTestHost(folder).host);
+    QVERIFY(korvane.start());
+    korvane.mainWindow()->close();
+    QSignalSpy asked(&korvane.state(), &Navigation::pendingScanChanged);
+    command(korvane.trayIcon().menu(), QStringLiteral("Scan System Junk"))->trigger();
+    QVERIFY(korvane.mainWindow()->isVisible());
+    QVERIFY(korvane.state().selectedModule() == CleanerModule::systemJunk);
+    QVERIFY(asked.count() > 0);
+}
+
+void KorvaneAppTest::endsWithItsLastWindowWhereThereIsNoTray()
+{
+    if (QSystemTrayIcon::isSystemTrayAvailable())
+        QSKIP("This desktop has a tray");
+    const TemporaryFolder folder;
+    KorvaneApp korvane(makeTestHost(folder).host);
+    QVERIFY(korvane.start());
+    QTimer::singleShot(0, korvane.mainWindow(), &QWindow::close);
+    QTimer::singleShot(10'000, qApp, [] { QCoreApplication::exit(1); });
+    QCOMPARE(QApplication::exec(), 0);
+}
+
+QTEST_MAIN(KorvaneAppTest)
+#include "KorvaneAppTest.moc"

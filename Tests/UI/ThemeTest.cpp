@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "UI/Appearance.h"
+
+#include <QColor>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+using namespace Korvane;
+
+namespace {
+
+// Relative luminance and contrast as the Web Content Accessibility Guidelines 2.1 define them.
+double luminance(const QColor& color)
+{
+    const auto linear = [](double channel) {
+        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const double brighter = std::max(luminance(one), luminance(other));
+    const double darker = std::min(luminance(one), luminance(other));
+    return (brighter + 0.05) / (darker + 0.05);
+}
+
+QColor over(const QColor& top, const QColor& bottom)
+{
+    const auto mixed = [&](float above, float below) { return above * top.alphaF() + below * (1 - top.alphaF()); };
+    return QColor::fromRgbF(
+        mixed(top.redF(), bottom.redF()), mixed(top.greenF(), bottom.greenF()), mixed(top.blueF(), bottom.blueF()));
+}
+
+} // namespace
+
+class ThemeTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void textCanBeReadOnEveryBackground_data();
+    void textCanBeReadOnEveryBackground();
+    void whiteCanBeReadOnFilledButtons_data();
+    void whiteCanBeReadOnFilledButtons();
+    void theAccentGradientEndsAt55Percent();
+    void theHeroGradientRunsFromCyanToBlue();
+    void theWindowIsTintedFaintly();
+    void colourNamesFollowTheAppearance();
+    void nothingMovesUnderReducedMotion();
+    void highContrastStrengthensTextAndLines();
+
+private:
+    QVariant member(const char* name) const { return m_theme->property(name); }
+    QColor color(const char* name) const { return member(name).value<QColor>(); }
+
+    std::unique_ptr<QQmlEngine> m_engine;
+    Appearance* m_appearance = nullptr;
+    QObject* m_theme = nullptr;
+};
+
+void ThemeTest::init()
+{
+    m_engine = std::make_unique<QQmlEngine>();
+    m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    QQmlComponent component(m_engine.get());
+    component.setData("import QtQml\nimport Korvane.UI\n"
+                      "QtObject { property QtObject theme: Theme; property QtObject appearance: Appearance }",
+        QUrl());
+    const std::unique_ptr<QObject> holder(component.create());
+    QVERIFY2(holder, qPrintable(component.errorString()));
+    m_theme = holder->property("theme").value<QObject*>();
+    m_appearance = qobject_cast<Appearance*>(holder->property("appearance").value<QObject*>());
+    QVERIFY(m_theme != nullptr && m_appearance != nullptr);
+    m_appearance->setDark(false);
+    m_appearance->setReducedMotion(false);
+    m_appearance->setHighContrast(false);
+}
+
+void ThemeTest::textCanBeReadOnEveryBackground_data()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::addColumn<QByteArray>("text");
+    for (const bool dark : { false, true }) {
+        for (const char* text :
+            { "label", "secondaryLabel", "tertiaryLabel", "linkLabel", "warningLabel", "errorLabel", "successLabel" })
+            QTest::addRow("%s %s", dark ? "dark" : "light", text) << dark << QByteArray(text);
+    }
+}
+
+void ThemeTest::textCanBeReadOnEveryBackground()
+{
+    QFETCH(const bool, dark);
+    QFETCH(const QByteArray, text);
+    m_appearance->setDark(dark);
+    const QColor window = color("window");
+    const QColor sidebar = color("sidebar");
+    const QVariantList tint = member("windowBackground").toList();
+    const QColor card = over(color("cardBackground"), window);
+    const QList<QColor> backgrounds{ window, sidebar, color("elevated"), color("field"), card,
+        over(tint.first().value<QColor>(), window), over(tint.last().value<QColor>(), window),
+        over(color("hoverFill"), card), over(color("hoverFill"), sidebar) };
+    for (const QColor& background : backgrounds) {
+        const double reached = contrast(color(text), background);
+        QVERIFY2(reached >= 4.5, qPrintable(QStringLiteral("%1 on %2").arg(reached).arg(background.name())));
+    }
+    QVERIFY(contrast(color("label"), over(color("selectionFill"), sidebar)) >= 4.5);
+}
+
+void ThemeTest::whiteCanBeReadOnFilledButtons_data()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::newRow("light") << false;
+    QTest::newRow("dark") << true;
+}
+
+void ThemeTest::whiteCanBeReadOnFilledButtons()
+{
+    QFETCH(const bool, dark);
+    m_appearance->setDark(dark);
+    QVERIFY(contrast(color("onAccent"), color("prominentFill")) >= 4.5);
+    QVERIFY(contrast(color("onAccent"), color("destructiveFill")) >= 4.5);
+}
+
+void ThemeTest::theAccentGradientEndsAt55Percent()
+{
+    for (const QColor& accent : { QColor(Qt::red), QColor(QStringLiteral("#32ade6")), QColor(1, 2, 3) }) {
+        QVariant gradient;
+        QVERIFY(QMetaObject::invokeMethod(
+            m_theme, "accentGradient", Q_RETURN_ARG(QVariant, gradient), Q_ARG(QColor, accent)));
+        const QVariantList stops = gradient.toList();
+        QCOMPARE(stops.size(), 2);
+        QCOMPARE(stops.first().value<QColor>(), accent);
+        const auto last = stops.last().value<QColor>();
+        QCOMPARE(last.rgb(), accent.rgb());
+        QVERIFY(std::abs(last.alphaF() - 0.55F) < 0.005F);
+    }
+}
+
+void ThemeTest::theHeroGradientRunsFromCyanToBlue()
+{
+    const QVariantList stops = member("heroGradient").toList();
+    QCOMPARE(stops.size(), 2);
+    QCOMPARE(stops.first().value<QColor>(), color("cyan"));
+    QCOMPARE(stops.last().value<QColor>(), color("blue"));
+}
+
+void ThemeTest::theWindowIsTintedFaintly()
+{
+    const QVariantList stops = member("windowBackground").toList();
+    QCOMPARE(stops.size(), 3);
+    QCOMPARE(stops[0].value<QColor>().rgb(), color("blue").rgb());
+    QVERIFY(std::abs(stops[0].value<QColor>().alphaF() - 0.07F) < 0.005F);
+    QCOMPARE(stops[1].value<QColor>().alpha(), 0);
+    QCOMPARE(stops[2].value<QColor>().rgb(), color("purple").rgb());
+    QVERIFY(std::abs(stops[2].value<QColor>().alphaF() - 0.06F) < 0.005F);
+}
+
+void ThemeTest::colourNamesFollowTheAppearance()
+{
+    QCOMPARE(color("blue"), QColor(0x00, 0x7a, 0xff));
+    m_appearance->setDark(true);
+    QCOMPARE(color("blue"), QColor(0x0a, 0x84, 0xff));
+    QVERIFY(luminance(color("window")) < 0.05);
+    QVERIFY(luminance(color("label")) > 0.8);
+}
+
+void ThemeTest::nothingMovesUnderReducedMotion()
+{
+    QVERIFY(member("durationShort").toInt() >= 150 && member("durationLong").toInt() <= 250);
+    m_appearance->setReducedMotion(true);
+    QCOMPARE(member("durationShort").toInt(), 0);
+    QCOMPARE(member("durationLong").toInt(), 0);
+    QVERIFY(!member("animated").toBool());
+}
+
+void ThemeTest::highContrastStrengthensTextAndLines()
+{
+    const double before = contrast(color("secondaryLabel"), color("window"));
+    const int line = color("separator").alpha();
+    m_appearance->setHighContrast(true);
+    QVERIFY(contrast(color("secondaryLabel"), color("window")) > std::max(before, 10.0));
+    QVERIFY(color("separator").alpha() > line);
+}
+
+QTEST_MAIN(ThemeTest)
+#include "ThemeTest.moc"
