@@ -11,8 +11,6 @@
 #include "Platform/DisplayText.h"
 
 #include <exception>
-#include <new>
-#include <system_error>
 #include <unordered_set>
 #include <utility>
 
@@ -68,9 +66,6 @@ ExitStatus Program::run(const std::vector<std::string>& arguments) noexcept
         return ExitStatus::WrongUse;
     } catch (const CancellationError&) {
         return ExitStatus::Cancelled;
-    } catch (const std::system_error& error) {
-        StandardStreams::complain(error.what());
-        return ExitStatus::Failed;
     } catch (const std::exception& error) {
         StandardStreams::complain(error.what());
         return ExitStatus::Failed;

@@ -8,6 +8,7 @@
 #include "Platform/FileAttributes.h"
 #include "Platform/LowerCase.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 #include <utility>
@@ -16,21 +17,31 @@ namespace Korvane {
 
 namespace {
 
+/// The most that a lock file holds: the number of a process and the name of a machine. What package managers call a
+/// lock is a list, and longer.
+constexpr std::int64_t largestLock = 100;
+
 bool endsWith(std::string_view text, std::string_view ending)
 {
     return text.size() >= ending.size() && text.substr(text.size() - ending.size()) == ending;
 }
 
-/// Whether a name says that the thing is a lock: "lock", "lockfile", "index.lock", ".X0-lock", "SingletonLock".
+/// Whether a name says that the thing is a lock.
 bool isNamedAsLock(std::string_view name)
 {
-    static constexpr std::array<std::string_view, 3> endings{ "lock", "lockfile", ".lck" };
+    static constexpr std::array<std::string_view, 4> names{ "lock", "lockfile", "singletonlock", ".parentlock" };
+    static constexpr std::array<std::string_view, 4> endings{ ".lock", "-lock", "_lock", ".lck" };
     const auto lower = lowercased(name);
-    for (const auto ending : endings) {
-        if (endsWith(lower, ending))
-            return true;
-    }
-    return false;
+    return std::find(names.begin(), names.end(), lower) != names.end()
+        || std::any_of(
+            endings.begin(), endings.end(), [&](std::string_view ending) { return endsWith(lower, ending); });
+}
+
+bool isLockFile(const DirectoryEntry& entry)
+{
+    if (entry.type() == EntryType::Directory || !isNamedAsLock(entry.name()))
+        return false;
+    return entry.type() != EntryType::RegularFile || entry.values().fileSize.value_or(0) <= largestLock;
 }
 
 } // namespace
@@ -68,7 +79,7 @@ bool SharedTemporaryFolder::isContentUnused(const std::filesystem::path& folder,
         const auto modified = entry->values().contentModificationDate;
         if (!entry->hasValues() || !modified || *modified > m_newestUnused)
             return false;
-        if (entry->type() == EntryType::Other || isNamedAsLock(entry->name()))
+        if (entry->type() == EntryType::Other || isLockFile(*entry))
             return false;
         if (entry->type() == EntryType::RegularFile && lockQuestionsLeft > 0) {
             --lockQuestionsLeft;

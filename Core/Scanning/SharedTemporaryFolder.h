@@ -14,7 +14,7 @@ namespace Korvane {
 /// Tells, in a temporary directory that all users share, what this user left there and nothing uses any more.
 ///
 /// A child is unused when it is the user's own, its newest content is older than a day, and neither it nor anything
-/// in it is a socket, a pipe or a device, a file named as a lock, or a file that a process holds a lock on. What
+/// in it is a socket, a pipe or a device, a small file named as a lock, or a file that a process holds a lock on. What
 /// cannot be looked into is taken to be in use.
 class SharedTemporaryFolder {
 public:

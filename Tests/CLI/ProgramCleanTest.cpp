@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "CLI/Program.h"
 #include "Tests/CLI/ProgramFixture.h"
+#include "Tests/Core/ForwardingFileManager.h"
 #include "Tests/Support/OrdinaryUser.h"
 #include "Tests/Support/Sentinel.h"
+#include "Tests/Support/TestWorkspace.h"
 
 #include <csignal>
 
@@ -133,9 +136,31 @@ TEST_F(ProgramCleanTest, ItemsThatFailAreReportedWithTheReason)
     EXPECT_FALSE(std::filesystem::exists(other));
 }
 
+TEST_F(ProgramCleanTest, CancelLetsTheItemAtHandBeFinished)
+{
+    for (const char* name : { "a", "b", "c", "d", "e" })
+        makeLog(name);
+    auto environment = Environment::inFolder(folder.path());
+    auto files = std::make_shared<ForwardingFileManager>(makeFileManager(environment));
+    const Cancellation cancellation;
+    files->beforeRemoving = [&](const std::filesystem::path&) {
+        if (files->removed().size() == 2)
+            cancellation.cancel();
+    };
+    Program program({ environment, files, std::make_shared<TestWorkspace>(), nullptr }, cancellation);
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    const auto status = program.run({ "clean", "systemJunk", "--delete", "--yes", "--json" });
+    output = testing::internal::GetCapturedStdout();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "korvane-cli: cancelled; 2 items were not touched\n");
+    EXPECT_EQ(status, ExitStatus::Cancelled);
+    EXPECT_EQ(json()["cleanedCount"].toInteger(), 3);
+    EXPECT_EQ(files->removed().size(), 3U);
+}
+
 TEST_F(ProgramCleanTest, InterruptedCleaningReportsExactlyWhatWasDone)
 {
-    constexpr std::size_t count = 3000;
+    constexpr std::size_t count = 10'000;
     for (std::size_t i = 0; i < count; ++i)
         makeLog("f" + std::to_string(i), 1);
     ProgramRun program(folder.path(), { "clean", "systemJunk", "--yes", "--json" }, Output::Captured, Errors::Terminal);

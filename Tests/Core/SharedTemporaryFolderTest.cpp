@@ -164,8 +164,21 @@ TEST_F(SharedTemporaryFolderTest, LocksByNameAreNotOffered)
     const auto profile = makeOldFolder("profile");
     std::filesystem::create_symlink("host-1234", profile / "SingletonLock");
     makeOld(profile);
-    makeOldFile("locksmith.txt");
-    EXPECT_EQ(urls(scanJunk()), std::vector{ temporary() / "locksmith.txt" });
+    const auto service = makeOldFolder("service");
+    writeFile(service / "inner/lock", std::string_view("1234\n"));
+    makeOld(service);
+    const auto other = makeOldFile("locksmith.txt");
+    EXPECT_EQ(urls(scanJunk()), std::vector{ other });
+}
+
+TEST_F(SharedTemporaryFolderTest, ListsThatPackageManagersCallLocksAreNoLocks)
+{
+    shareTemporaryDirectory();
+    const auto project = makeOldFolder("project");
+    writeFile(project / "Cargo.lock", std::size_t{ 5000 });
+    writeFile(project / "clock", std::string_view("tick"));
+    makeOld(project);
+    EXPECT_EQ(urls(scanJunk()), std::vector{ project });
 }
 
 TEST_F(SharedTemporaryFolderTest, FilesThatAnotherProcessHasLockedAreNotOffered)
@@ -188,7 +201,6 @@ TEST_F(SharedTemporaryFolderTest, FolderThatCannotBeLookedIntoIsNotOffered)
     const auto tree = makeOldFolder("tree");
     giveToOrdinaryUser(folder().path());
     std::filesystem::permissions(tree / "inner", std::filesystem::perms::none);
-    makeOld(temporary());
     EXPECT_EQ(runAsOrdinaryUser([&] { return std::to_string(scanJunk().size()); }), "0");
 }
 
