@@ -75,18 +75,17 @@ Complaints checkFunctionLengths(const SourceText& file)
 {
     constexpr std::size_t longest = 40;
     Complaints complaints;
-    std::optional<std::size_t> opened;
+    std::size_t opened = 0; // the line of the brace, counted from 1; 0 outside functions
     std::size_t length = 0;
     for (std::size_t i = 0; i < file.lines.size(); ++i) {
         if (file.lines[i] == "{") {
-            opened = i;
+            opened = i + 1;
             length = 0;
-        } else if (file.lines[i] == "}" && opened) {
+        } else if (file.lines[i] == "}" && opened > 0) {
             if (length > longest) {
-                complaints.push_back(
-                    complaint(file, *opened + 1, "a function of " + std::to_string(length) + " lines"));
+                complaints.push_back(complaint(file, opened, "a function of " + std::to_string(length) + " lines"));
             }
-            opened.reset();
+            opened = 0;
         } else if (!isTableRow(file.lines[i])) {
             ++length;
         }
