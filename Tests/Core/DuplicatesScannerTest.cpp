@@ -94,7 +94,7 @@ TEST_F(DuplicatesScannerTest, OfEquallyOldFilesTheOneMetFirstIsKept)
 TEST_F(DuplicatesScannerTest, FileWithoutAModificationDateSortsAsTheOldest)
 {
     std::vector<DuplicateCandidate> candidates{
-        { "/dated", 1, DuplicateCandidate::Timestamp(-1000h * 24 * 365) },
+        { "/dated", 1, DuplicateCandidate::Timestamp(-24h * 365 * 100) },
         { "/undated", 1, std::nullopt },
         { "/undated too", 1, std::nullopt },
     };
