@@ -8,6 +8,7 @@
 #include "Platform/Walking/DirectoryReader.h"
 #include "Platform/Walking/ReaderDemand.h"
 #include "Platform/Walking/ReaderPool.h"
+#include "Platform/Walking/ReadingScope.h"
 #include "Platform/Walking/WalkFolder.h"
 
 #include <condition_variable>
@@ -95,6 +96,7 @@ void TreeSum::help()
 /// Reads folders until none is left to take. The thread was counted as working, and is not any more afterwards.
 void TreeSum::drain(Folders& own)
 {
+    const ReadingScope reading;
     DirectoryReader reader;
     std::int64_t sum = 0;
     while (!m_cancellation.isCancelled() && (!own.empty() || takeShared(own))) {
@@ -126,7 +128,11 @@ void TreeSum::readPart(const WalkFolderReference& folder, Folders& own, Director
         addEntries(folder, descriptor, own, reader, sum);
     }
     const bool isWanted = isLong || own.size() > before;
-    m_descriptors.unpin(*folder, isWanted ? DescriptorCache::Keep::Yes : DescriptorCache::Keep::No);
+    const auto keep = isWanted ? DescriptorCache::Keep::Yes : DescriptorCache::Keep::No;
+    if (isLong)
+        m_descriptors.unpin(*folder, keep);
+    else
+        m_descriptors.unpinListed(*folder, keep);
 }
 
 void TreeSum::addEntries(
@@ -200,6 +206,7 @@ void TreeSum::share(Folders& own, std::size_t count)
 std::int64_t totalAllocatedSize(const std::filesystem::path& path, const Cancellation& cancellation)
 {
     cancellation.throwIfCancelled();
+    const ReadingScope reading;
     const auto item = DirectoryReader::statusOfItem(path.native());
     if (!item.hasValues)
         return 0;

@@ -12,6 +12,10 @@ bytes_of_folders() { find "$@" -type d -printf '%b\n' | eval "$sum_of_blocks"; }
 
 drop_caches="sync; echo 3 >/proc/sys/vm/drop_caches"
 
+# bfs walks with several threads from version 3 on.
+bfs=(bfs)
+if bfs -j8 / -maxdepth 0 >/dev/null 2>&1; then bfs=(bfs -j8); fi
+
 measure_contestants() { # PATH...
     local of_folders
     of_folders=$(bytes_of_folders "$@")
@@ -19,7 +23,7 @@ measure_contestants() { # PATH...
     contestant korvane cat "$tools/bench-measure" "$@"
     contestant du "awk -v f=$of_folders '{ total += \$1 } END { printf \"%.0f\\n\", total - f }'" du -s -l -B1 "$@"
     contestant find "$sum_of_blocks" find "$@" -type f -printf '%b\n'
-    has bfs && contestant "bfs -j8" "$sum_of_blocks" bfs -j8 "$@" -type f -printf '%b\n'
+    has bfs && contestant "${bfs[*]}" "$sum_of_blocks" "${bfs[@]}" "$@" -type f -printf '%b\n'
     if has gdu && (($# == 1)); then contestant gdu - gdu -n -p -s "$@"; fi
 }
 
@@ -46,7 +50,7 @@ large_contestants() { # PATH
     contestant "bare loop" cat "$tools/bench-bare-walk" --home "$1"
     contestant korvane cat "$tools/bench-large-walk" "$1"
     contestant find "$sum_of_blocks" find "$1" "${leaving_out[@]}" -o -type f -printf '%b\n'
-    has bfs && contestant "bfs -j8" "$sum_of_blocks" bfs -j8 "$1" "${leaving_out[@]}" -o -type f -printf '%b\n'
+    has bfs && contestant "${bfs[*]}" "$sum_of_blocks" "${bfs[@]}" "$1" "${leaving_out[@]}" -o -type f -printf '%b\n'
     return 0
 }
 

@@ -120,6 +120,15 @@ void DescriptorCache::markPosition(WalkFolder& folder, const DirectoryReader& re
     folder.m_position = reader.positionAfter(folder.m_descriptor, folder.m_position);
 }
 
+void DescriptorCache::unpinListed(WalkFolder& folder, Keep keep)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        folder.m_position = 0;
+    }
+    release(folder, keep);
+}
+
 void DescriptorCache::release(WalkFolder& folder, Keep keep)
 {
     int closing = -1;
@@ -138,12 +147,15 @@ void DescriptorCache::release(WalkFolder& folder, Keep keep)
         DirectoryReader::close(closing);
 }
 
+/// A folder whose listing is still to be gone on with stays open where the host could not find the place again.
 void DescriptorCache::closeKept(std::size_t remaining)
 {
-    while (m_kept > remaining) {
-        WalkFolder& folder = *m_oldest;
-        unlink(folder);
-        DirectoryReader::close(std::exchange(folder.m_descriptor, -1));
+    for (WalkFolder* folder = m_oldest; folder && m_kept > remaining;) {
+        WalkFolder& oldest = *std::exchange(folder, folder->m_newer);
+        if (oldest.m_position != 0 && !DirectoryReader::canResume())
+            continue;
+        unlink(oldest);
+        DirectoryReader::close(std::exchange(oldest.m_descriptor, -1));
     }
 }
 

@@ -37,6 +37,9 @@ public:
     /// Ends a use that pin began.
     void unpin(WalkFolder& folder, Keep keep) { release(folder, keep); }
 
+    /// The same by the reader that has come to the end of the folder's listing.
+    void unpinListed(WalkFolder& folder, Keep keep);
+
     /// Remembers that the listing goes on after the part that `reader` holds, should the folder be closed before.
     void markPosition(WalkFolder& folder, const DirectoryReader& reader);
 

@@ -60,6 +60,8 @@ public:
     static int openLeadingFolder(int parent, const char* path) noexcept;
     /// Whether openFolder can take several levels in one call.
     static bool opensSeveralLevels() noexcept;
+    /// Whether resume() can find a place in a listing again.
+    static bool canResume() noexcept;
     /// Goes on where a listing was left before its folder was closed and opened again.
     static void resume(int folder, std::int64_t position);
     static void close(int folder) noexcept;
@@ -68,7 +70,7 @@ public:
     static std::size_t descriptorsToKeep();
     /// How many threads read ahead.
     static std::size_t readerCount() noexcept;
-    /// Called once by each reading thread: its name, its signals, and that it must not bring down files from a cloud.
+    /// Called once by each thread of the pool: its name, and that signals are for others.
     static void prepareThread();
 
 private:

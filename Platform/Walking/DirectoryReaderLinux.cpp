@@ -209,6 +209,7 @@ bool DirectoryReader::opensSeveralLevels() noexcept
     return isKnownToKernel;
 }
 
+bool DirectoryReader::canResume() noexcept { return true; }
 void DirectoryReader::resume(int folder, std::int64_t position) { lseek(folder, position, SEEK_SET); }
 void DirectoryReader::close(int folder) noexcept { ::close(folder); }
 

@@ -5,6 +5,7 @@
 
 #include "Platform/PackageExtensions.h"
 #include "Platform/Walking/ReaderPool.h"
+#include "Platform/Walking/ReadingScope.h"
 #include "Platform/Walking/WalkFolder.h"
 
 #include <chrono>
@@ -48,6 +49,7 @@ ReadAhead::~ReadAhead() = default;
 
 ReadAhead::Part ReadAhead::begin(const std::string& root)
 {
+    const ReadingScope reading;
     auto part = std::make_shared<ListingPart>(WalkFolder::makeRoot(m_descriptors, root));
     part->error = m_descriptors.openRoot(*part->folder);
     if (part->error) {
@@ -68,7 +70,10 @@ void ReadAhead::obtain(const Part& part)
         const bool isFree = part->state == State::Unread;
         if (const auto mine = isFree ? claim(*part) : takeFirst()) {
             lock.unlock();
-            read(*mine, *m_consumersDesk);
+            {
+                const ReadingScope reading;
+                read(*mine, *m_consumersDesk);
+            }
             lock.lock();
             publish(*mine, isFree ? 0 : sizeOf(*mine));
         } else {
@@ -107,6 +112,7 @@ void ReadAhead::discard(std::vector<Part> parts)
 
 void ReadAhead::help()
 {
+    const ReadingScope reading;
     Desk desk;
     std::unique_lock lock(m_mutex);
     while (!ReaderPool::shared().isStopping() && !m_cancellation.isCancelled()) {
@@ -154,7 +160,11 @@ void ReadAhead::read(ListingPart& part, Desk& desk)
     part.entries = desk.entries; // Copies that take no more than they need.
     part.names = desk.names;
     const bool isWanted = isLong || !part.subfolders.empty();
-    m_descriptors.unpin(*part.folder, isWanted ? DescriptorCache::Keep::Yes : DescriptorCache::Keep::No);
+    const auto keep = isWanted ? DescriptorCache::Keep::Yes : DescriptorCache::Keep::No;
+    if (isLong)
+        m_descriptors.unpin(*part.folder, keep);
+    else
+        m_descriptors.unpinListed(*part.folder, keep);
     desk.entries.clear();
     desk.names.clear();
 }
