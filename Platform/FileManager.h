@@ -52,7 +52,8 @@ public:
     /// Deletes for good what lies in one of the Trash folders; the folder itself stays.
     ///
     /// Stops at the first entry that cannot be deleted, with that entry's error; what was deleted stays deleted.
-    /// A Trash that cannot be listed counts as empty.
+    /// A Trash that cannot be listed counts as empty. Refused: ".Trash" in the home folder or one of
+    /// additionalTrashDirectories() is all that is ever emptied, and neither when a link lies in its place.
     virtual void emptyTrash(const std::filesystem::path& trash) = 0;
 };
 

@@ -3,6 +3,7 @@
 
 #include "Platform/Files/FolderCache.h"
 
+#include <cerrno>
 #include <utility>
 #include <vector>
 

@@ -9,6 +9,7 @@
 #include "Platform/Files/Removal.h"
 #include "Platform/Files/Trash.h"
 
+#include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
 

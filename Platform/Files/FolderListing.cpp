@@ -6,6 +6,7 @@
 #include "Platform/FileError.h"
 #include "Platform/Files/OpenFolder.h"
 
+#include <cerrno>
 #include <climits>
 #include <fcntl.h>
 #include <string_view>

@@ -5,6 +5,8 @@
 
 #include "Platform/FileError.h"
 
+#include <cerrno>
+
 #import <Foundation/Foundation.h>
 
 namespace Korvane {

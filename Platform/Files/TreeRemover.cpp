@@ -245,7 +245,11 @@ TreeRemover::Emptied TreeRemover::removeEmptied(DoomedFolder& folder)
         error = errorOf([&] { return unlinkat(above->descriptor(), folder.name.c_str(), AT_REMOVEDIR); });
         again = error == EACCES && openUp(*folder.parent, *above);
     }
-    if (error == 0 || error == ENOENT)
+    // Somebody else may have been faster; that is looked up, for it is reported as done.
+    EntryStatus left;
+    const bool isGone = error == ENOENT && above
+        && readStatus(above->descriptor(), folder.name.c_str(), Links::NotFollowed, left) == ENOENT;
+    if (error == 0 || isGone)
         return Emptied::Gone;
     if ((error == ENOTEMPTY || error == EEXIST) && ++folder.passes < mostPasses) {
         error = own->rewind();

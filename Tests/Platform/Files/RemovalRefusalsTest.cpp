@@ -101,14 +101,7 @@ TEST_F(RemovalRefusalsTest, AFolderSharedByAllUsers)
     writeFile(home("shared/file"), "x");
     ASSERT_EQ(chmod(home("shared").c_str(), 01777), 0);
     expectRefused(home("shared"), "is a folder shared by all users");
-    expectRefused("/tmp", "never removed");
     EXPECT_TRUE(isThere(home("shared/file")));
-}
-
-TEST_F(RemovalRefusalsTest, AMountPoint)
-{
-    expectRefused("/proc", "is where a volume is mounted");
-    expectRefused("/sys", "is where a volume is mounted");
 }
 
 TEST_F(RemovalRefusalsTest, AFolderThatIsNoTrashIsNotEmptied)

@@ -94,20 +94,6 @@ TEST_F(RemovalTest, PipesAndSocketsAreRemoved)
     EXPECT_FALSE(isThere(home("item")));
 }
 
-TEST_F(RemovalTest, NamesOfAnyBytesAndOf255Bytes)
-{
-    std::filesystem::create_directories(home("item"));
-    for (int byte = 1; byte < 256; ++byte) {
-        if (byte == '/')
-            continue;
-        const std::string name = std::string("b") + static_cast<char>(byte);
-        writeFile(home("item") / name / (name + "-"), "x");
-        writeFile(home("item") / std::string(255, static_cast<char>(byte == '.' ? 'd' : byte)), "x");
-    }
-    EXPECT_EQ(removing(home("item")), "");
-    EXPECT_FALSE(isThere(home("item")));
-}
-
 TEST_F(RemovalTest, DepthIsNoLimit)
 {
     makeDeepTree(home("item"), 20000);
