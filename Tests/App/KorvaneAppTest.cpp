@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "App/KorvaneApp.h"
+#include "App/TerminationSignals.h"
 #include "Tests/Support/TestHost.h"
 #include "Tests/UI/Support/QmlWarnings.h"
 #include "UI/PreferenceKeys.h"
@@ -12,6 +13,8 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+
+#include <csignal>
 
 using namespace Korvane;
 
@@ -47,6 +50,8 @@ private Q_SLOTS:
     void theMenuOpensAClosedWindow();
     void theMenuScansSystemJunkInAClosedWindow();
     void endsWithItsLastWindowWhereThereIsNoTray();
+    void endsInOrderWhenAskedToBySignal_data();
+    void endsInOrderWhenAskedToBySignal();
 };
 
 void KorvaneAppTest::opensTheMainWindowWithoutWarnings()
@@ -107,7 +112,28 @@ void KorvaneAppTest::endsWithItsLastWindowWhereThereIsNoTray()
     KorvaneApp korvane(makeTestHost(folder).host);
     QVERIFY(korvane.start());
     QTimer::singleShot(0, korvane.mainWindow(), &QWindow::close);
-    QTimer::singleShot(10'000, qApp, [] { QCoreApplication::exit(1); });
+    QTimer deadline;
+    deadline.callOnTimeout([] { QCoreApplication::exit(1); });
+    deadline.start(10'000);
+    QCOMPARE(QApplication::exec(), 0);
+}
+
+void KorvaneAppTest::endsInOrderWhenAskedToBySignal_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("terminate") << SIGTERM;
+    QTest::newRow("interrupt") << SIGINT;
+    QTest::newRow("hang up") << SIGHUP;
+}
+
+void KorvaneAppTest::endsInOrderWhenAskedToBySignal()
+{
+    QFETCH(const int, signal);
+    const TerminationSignals terminationSignals;
+    QTimer::singleShot(0, qApp, [=] { std::raise(signal); });
+    QTimer deadline;
+    deadline.callOnTimeout([] { QCoreApplication::exit(1); });
+    deadline.start(10'000);
     QCOMPARE(QApplication::exec(), 0);
 }
 

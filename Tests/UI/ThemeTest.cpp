@@ -4,6 +4,8 @@
 #include "UI/Appearance.h"
 
 #include <QColor>
+#include <QGuiApplication>
+#include <QPalette>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QTest>
@@ -54,6 +56,7 @@ private Q_SLOTS:
     void theHeroGradientRunsFromCyanToBlue();
     void theWindowIsTintedFaintly();
     void colourNamesFollowTheAppearance();
+    void followsThePaletteWhereTheDesktopSaysNothing();
     void nothingMovesUnderReducedMotion();
     void highContrastStrengthensTextAndLines();
 
@@ -170,6 +173,22 @@ void ThemeTest::colourNamesFollowTheAppearance()
     QCOMPARE(color("blue"), QColor(0x0a, 0x84, 0xff));
     QVERIFY(luminance(color("window")) < 0.05);
     QVERIFY(luminance(color("label")) > 0.8);
+}
+
+void ThemeTest::followsThePaletteWhereTheDesktopSaysNothing()
+{
+    m_appearance->setDark(std::nullopt);
+    const QPalette former = QGuiApplication::palette();
+    QPalette palette = former;
+    palette.setColor(QPalette::Window, Qt::black);
+    palette.setColor(QPalette::WindowText, Qt::white);
+    QGuiApplication::setPalette(palette);
+    QTRY_VERIFY(member("dark").toBool());
+    palette.setColor(QPalette::Window, Qt::white);
+    palette.setColor(QPalette::WindowText, Qt::black);
+    QGuiApplication::setPalette(palette);
+    QTRY_VERIFY(!member("dark").toBool());
+    QGuiApplication::setPalette(former);
 }
 
 void ThemeTest::nothingMovesUnderReducedMotion()

@@ -68,7 +68,7 @@ T.AbstractButton {
             anchors.fill: parent
             radius: Theme.radiusCard
             color: card.down ? Theme.pressedFill : Theme.hoverFill
-            visible: card.down || card.hovered
+            visible: card.down || (card.hovered && Theme.dark)
         }
         FocusRing {
             shown: card.visualFocus
