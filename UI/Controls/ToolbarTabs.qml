@@ -17,6 +17,18 @@ T.TabBar {
     padding: Theme.spacing
     Accessible.role: Accessible.PageTabList
 
+    Keys.onLeftPressed: bar.step(bar.mirrored ? 1 : -1)
+    Keys.onRightPressed: bar.step(bar.mirrored ? -1 : 1)
+
+    /// Selects the tab so many places on, if there is one, and puts the keyboard on it.
+    function step(places: int): void {
+        const next = bar.itemAt(bar.currentIndex + places);
+        if (next === null)
+            return;
+        bar.setCurrentIndex(bar.currentIndex + places);
+        next.forceActiveFocus(Qt.TabFocusReason);
+    }
+
     contentItem: Item {
         ListView {
             anchors.horizontalCenter: parent.horizontalCenter
@@ -27,6 +39,8 @@ T.TabBar {
             spacing: bar.spacing
             orientation: ListView.Horizontal
             interactive: false
+            // The bar moves, not the list: it would lose its tie to the bar.
+            keyNavigationEnabled: false
         }
     }
 
