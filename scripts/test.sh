@@ -21,7 +21,13 @@ scripts/setup.sh --tests
 . scripts/environment.sh
 
 step=
-trap '[ $? -eq 0 ] || say "test.sh: FAILED while $step"' EXIT
+place="$(mktemp -d)"
+finish() {
+    local status=$?
+    rm -rf "$place"
+    [ $status -eq 0 ] || say "test.sh: FAILED while $step"
+}
+trap finish EXIT
 begin() { step="$1"; say "== $step"; }
 
 begin "building everything, warnings as errors"
@@ -30,6 +36,21 @@ build release
 
 begin "running every test"
 ctest --preset release
+
+# What the superuser may do anyway proves little about permissions; so the same tests run as nobody too.
+if [ "$(id -u)" -eq 0 ] && command -v setpriv >/dev/null; then
+    begin "running the tests of Platform, Core and CLI again as an ordinary user"
+    # A folder that this user may write its log to, and that holds nothing but the way to the tests.
+    echo "subdirs(\"$PWD/build/release\")" > "$place/CTestTestfile.cmake"
+    chown -R 65534:65534 "$place"
+    as_nobody() { setpriv --reuid=65534 --regid=65534 --clear-groups env HOME=/nonexistent LC_ALL=C.UTF-8 "$@"; }
+    if as_nobody test -x build/release/bin/korvane-cli; then
+        as_nobody ctest --test-dir "$place" --label-regex '^(Platform|Core|CLI)$' --no-tests=error \
+            --output-on-failure --timeout 300
+    else
+        say "Left out: other users may not enter $PWD."
+    fi
+fi
 
 begin "reading the QML with its linter"
 build release all_qmllint

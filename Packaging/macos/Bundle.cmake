@@ -31,6 +31,8 @@ set_target_properties(korvane PROPERTIES
 install(TARGETS korvane BUNDLE DESTINATION .)
 qt_generate_deploy_script(TARGET korvane OUTPUT_SCRIPT deploy CONTENT "
     qt_deploy_qml_imports(TARGET korvane PLUGINS_FOUND plugins)
-    qt_deploy_runtime_dependencies(EXECUTABLE Korvane.app ADDITIONAL_MODULES \${plugins} GENERATE_QT_CONF)
+    qt_deploy_runtime_dependencies(EXECUTABLE Korvane.app
+        ADDITIONAL_EXECUTABLES Korvane.app/Contents/MacOS/korvane-cli
+        ADDITIONAL_MODULES \${plugins} GENERATE_QT_CONF)
 ")
 install(SCRIPT ${deploy})
