@@ -7,6 +7,7 @@
 #
 #   scripts/setup.sh           what building and running needs
 #   scripts/setup.sh --tests   that, and what the tests need
+#   scripts/setup.sh --bench   that, and what the benchmarks need
 set -euo pipefail
 
 # "a|b" stands for either: the first that the distribution knows is installed.
@@ -26,6 +27,7 @@ debian_test_packages=(
     libglib2.0-bin gvfs trash-cli
     desktop-file-utils appstream dpkg-dev
 )
+debian_bench_packages=(libbenchmark-dev strace)
 
 fedora_packages=(
     gcc-c++ cmake ninja-build pkgconf-pkg-config file
@@ -39,6 +41,7 @@ fedora_test_packages=(
     glib2 gvfs trash-cli
     desktop-file-utils appstream
 )
+fedora_bench_packages=(google-benchmark-devel strace)
 
 arch_packages=(
     gcc cmake ninja pkgconf file
@@ -51,9 +54,11 @@ arch_test_packages=(
     glib2 gvfs trash-cli
     desktop-file-utils appstream
 )
+arch_bench_packages=(benchmark strace)
 
 brew_packages=(cmake ninja pkgconf qt icu4c openssl@3 python3)
 brew_test_packages=(googletest)
+brew_bench_packages=(google-benchmark)
 
 say() { printf '%s\n' "setup: $*" >&2; }
 fail() { say "$*"; exit 1; }
@@ -149,19 +154,18 @@ setup_macos() {
         || fail "Homebrew could not install them"
 }
 
-with_tests=
 case "${1:-}" in
-    '') ;;
-    --tests) with_tests=yes ;;
-    *) fail "unknown option $1 (there is only --tests)" ;;
+    '') more= ;;
+    --tests) more=test ;;
+    --bench) more=bench ;;
+    *) fail "unknown option $1 (there are --tests and --bench)" ;;
 esac
 
 choose() {
-    local system="$1" packages test_packages
+    local system="$1" packages
     # Names of arrays: bash 3, which macOS ships, has no other way.
     eval "packages=(\"\${${system}_packages[@]}\")"
-    eval "test_packages=(\"\${${system}_test_packages[@]}\")"
-    [ -z "$with_tests" ] || packages+=("${test_packages[@]}")
+    [ -z "$more" ] || eval "packages+=(\"\${${system}_${more}_packages[@]}\")"
     "setup_$2" "${packages[@]}"
 }
 
