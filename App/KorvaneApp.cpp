@@ -3,7 +3,10 @@
 
 #include "App/KorvaneApp.h"
 
+#include "App/ApplicationMenu.h"
+
 #include <QApplication>
+#include <QMenuBar>
 #include <QQuickWindow>
 #include <QUrl>
 
@@ -12,6 +15,7 @@ namespace Korvane {
 KorvaneApp::KorvaneApp(const Host& host)
     : m_content(host, m_state)
     , m_trayIcon(host.defaults)
+    , m_menuBar(makeApplicationMenu([this] { openSettings(); }))
 {
     connect(&m_trayIcon, &TrayIcon::openRequested, this, &KorvaneApp::openMainWindow);
     connect(&m_trayIcon, &TrayIcon::scanRequested, this, &KorvaneApp::scanSystemJunk);
@@ -19,6 +23,7 @@ KorvaneApp::KorvaneApp(const Host& host)
     // Whether there is an icon to come back from is known only when the last window closes.
     QApplication::setQuitOnLastWindowClosed(false);
     connect(qApp, &QApplication::lastWindowClosed, this, &KorvaneApp::leaveUnlessInTray);
+    connect(qApp, &QApplication::applicationStateChanged, this, &KorvaneApp::comeBackWhenActivated);
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     m_engine.setInitialProperties({ { QStringLiteral("viewModel"), QVariant::fromValue(&m_content) } });
 }
@@ -54,6 +59,20 @@ void KorvaneApp::scanSystemJunk()
 {
     openMainWindow();
     m_state.requestScan(CleanerModule::systemJunk);
+}
+
+void KorvaneApp::openSettings()
+{
+    openMainWindow();
+    Q_EMIT m_content.settingsRequested();
+}
+
+void KorvaneApp::comeBackWhenActivated(Qt::ApplicationState state)
+{
+    // Picked in the Dock while no window is open.
+    if (state == Qt::ApplicationActive && QGuiApplication::focusWindow() == nullptr && mainWindow() != nullptr
+        && !mainWindow()->isVisible())
+        openMainWindow();
 }
 
 void KorvaneApp::leaveUnlessInTray()

@@ -11,6 +11,9 @@
 #include <QObject>
 #include <QQmlApplicationEngine>
 
+#include <memory>
+
+class QMenuBar;
 class QQuickWindow;
 
 namespace Korvane {
@@ -37,13 +40,17 @@ public:
     void openMainWindow();
     /// Shows the main window and asks for a scan of the system junk.
     void scanSystemJunk();
+    /// Shows the settings window.
+    void openSettings();
 
 private:
     void leaveUnlessInTray();
+    void comeBackWhenActivated(Qt::ApplicationState state);
 
     AppState m_state;
     ContentViewModel m_content;
     TrayIcon m_trayIcon;
+    std::shared_ptr<QMenuBar> m_menuBar;
     QQmlApplicationEngine m_engine;
 };
 

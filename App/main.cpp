@@ -17,7 +17,7 @@
 ///     Settings/          the parts of the settings window
 ///     Symbols/           one family of drawings, and what tints them
 ///   CLI/               the same engine for a terminal
-///   App/               this file; KorvaneApp with its windows, AppState, TrayIcon
+///   App/               this file; KorvaneApp with its windows, AppState, TrayIcon, menus
 
 #include "App/KorvaneApp.h"
 #include "App/TerminationSignals.h"

@@ -14,6 +14,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <csignal>
 
 using namespace Korvane;
@@ -49,6 +50,8 @@ private Q_SLOTS:
     void theMenuTellsTheLastCleanupOnceThereIsOne();
     void theMenuOpensAClosedWindow();
     void theMenuScansSystemJunkInAClosedWindow();
+    void comesBackWhenActivatedWithoutAWindow();
+    void theApplicationMenuOpensTheSettings();
     void endsWithItsLastWindowWhereThereIsNoTray();
     void endsInOrderWhenAskedToBySignal_data();
     void endsInOrderWhenAskedToBySignal();
@@ -102,6 +105,32 @@ void KorvaneAppTest::theMenuScansSystemJunkInAClosedWindow()
     QVERIFY(korvane.mainWindow()->isVisible());
     QVERIFY(korvane.state().selectedModule() == CleanerModule::systemJunk);
     QVERIFY(asked.count() > 0);
+}
+
+void KorvaneAppTest::comesBackWhenActivatedWithoutAWindow()
+{
+    const TemporaryFolder folder;
+    KorvaneApp korvane(makeTestHost(folder).host);
+    QVERIFY(korvane.start());
+    korvane.mainWindow()->close();
+    QTRY_VERIFY(QGuiApplication::focusWindow() == nullptr);
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive);
+    QVERIFY(!korvane.mainWindow()->isVisible());
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive);
+    QVERIFY(korvane.mainWindow()->isVisible());
+}
+
+void KorvaneAppTest::theApplicationMenuOpensTheSettings()
+{
+    const TemporaryFolder folder;
+    const QmlWarnings warnings;
+    KorvaneApp korvane(makeTestHost(folder).host);
+    QVERIFY(korvane.start());
+    korvane.openSettings();
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    QVERIFY(std::any_of(windows.begin(), windows.end(),
+        [](const QWindow* window) { return window->title() == QStringLiteral("Settings") && window->isVisible(); }));
+    QCOMPARE(warnings.texts(), QStringList());
 }
 
 void KorvaneAppTest::endsWithItsLastWindowWhereThereIsNoTray()

@@ -25,8 +25,8 @@ T.TabBar {
         const next = bar.itemAt(bar.currentIndex + places);
         if (next === null)
             return;
-        bar.setCurrentIndex(bar.currentIndex + places);
         next.forceActiveFocus(Qt.TabFocusReason);
+        bar.setCurrentIndex(bar.currentIndex + places);
     }
 
     contentItem: Item {
