@@ -15,7 +15,7 @@ public:
     ReadingScope& operator=(const ReadingScope&) = delete;
 
 private:
-    int m_formerPolicy;
+    [[maybe_unused]] int m_formerPolicy; // What the host put aside; nothing on Linux.
 };
 
 } // namespace Korvane
