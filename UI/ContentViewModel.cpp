@@ -5,6 +5,8 @@
 
 #include "Platform/VolumeCapacity.h"
 
+#include <utility>
+
 namespace Korvane {
 
 namespace {
@@ -23,6 +25,7 @@ std::optional<VolumeCapacity> startupDisk() { return volumeCapacity("/"); }
 
 ContentViewModel::ContentViewModel(const Host& host, Navigation& navigation, QObject* parent)
     : QObject(parent)
+    , m_host(host)
     , m_navigation(navigation)
     , m_modules(makeModules(this))
     , m_cleanup(modules({ CleanerModule::systemJunk, CleanerModule::largeFiles, CleanerModule::duplicates,
@@ -33,7 +36,25 @@ ContentViewModel::ContentViewModel(const Host& host, Navigation& navigation, QOb
     , m_access(host)
     , m_settings(host.defaults, m_access)
 {
-    connect(&navigation, &Navigation::selectedModuleChanged, this, &ContentViewModel::selectedModuleChanged);
+    connect(&navigation, &Navigation::selectedModuleChanged, this, [this] {
+        renewScan();
+        Q_EMIT selectedModuleChanged();
+    });
+    renewScan();
+}
+
+void ContentViewModel::renewScan()
+{
+    const ModuleViewModel* selected = selectedModule();
+    const bool hasScan = selected && selected->isGeneric();
+    if (hasScan && m_scan && m_scan->module()->module() == selected->module())
+        return;
+    ScanViewModel* gone = std::exchange(
+        m_scan, hasScan ? new ScanViewModel(selected->module(), m_host, m_navigation, this) : nullptr);
+    Q_EMIT scanChanged();
+    // The old screen, which goes once control returns to the event loop, still names it until then.
+    if (gone)
+        gone->deleteLater();
 }
 
 ModuleViewModel* ContentViewModel::moduleViewModel(CleanerModule module) const

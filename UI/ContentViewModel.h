@@ -8,6 +8,7 @@
 #include "UI/FullDiskAccessViewModel.h"
 #include "UI/ModuleViewModel.h"
 #include "UI/Navigation.h"
+#include "UI/ScanViewModel.h"
 #include "UI/SettingsViewModel.h"
 
 #include <QList>
@@ -31,6 +32,8 @@ class ContentViewModel : public QObject {
     /// The module that the detail area shows; null for the dashboard.
     Q_PROPERTY(Korvane::ModuleViewModel* selectedModule READ selectedModule WRITE setSelectedModule NOTIFY
             selectedModuleChanged FINAL)
+    /// The scan screen of the selected module; null when it has none. A fresh one for each module that is selected.
+    Q_PROPERTY(Korvane::ScanViewModel* scan READ scan NOTIFY scanChanged FINAL)
     Q_PROPERTY(Korvane::DashboardViewModel* dashboard READ dashboard CONSTANT FINAL)
     Q_PROPERTY(Korvane::FullDiskAccessViewModel* access READ access CONSTANT FINAL)
     Q_PROPERTY(Korvane::SettingsViewModel* settings READ settings CONSTANT FINAL)
@@ -44,6 +47,7 @@ public:
     QQmlListProperty<ModuleViewModel> devices();
     ModuleViewModel* selectedModule() const;
     void setSelectedModule(ModuleViewModel* module);
+    ScanViewModel* scan() const { return m_scan; }
     DashboardViewModel* dashboard() { return &m_dashboard; }
     FullDiskAccessViewModel* access() { return &m_access; }
     SettingsViewModel* settings() { return &m_settings; }
@@ -53,12 +57,15 @@ public:
 
 Q_SIGNALS:
     void selectedModuleChanged();
+    void scanChanged();
     /// The main window is to open the settings window.
     void settingsRequested();
 
 private:
+    void renewScan();
     QList<ModuleViewModel*> modules(std::initializer_list<CleanerModule> modules) const;
 
+    const Host m_host;
     Navigation& m_navigation;
     QList<ModuleViewModel*> m_modules; ///< In declaration order.
     QList<ModuleViewModel*> m_cleanup;
@@ -67,6 +74,7 @@ private:
     DashboardViewModel m_dashboard;
     FullDiskAccessViewModel m_access;
     SettingsViewModel m_settings;
+    ScanViewModel* m_scan = nullptr; ///< A child of this.
 };
 
 } // namespace Korvane

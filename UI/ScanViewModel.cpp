@@ -52,13 +52,13 @@ void ScanViewModel::appear()
 
 void ScanViewModel::takeUpScanRequest()
 {
-    if (m_navigation.consumeScanRequest(m_module) && m_phase == Phase::Idle)
+    if (m_navigation.consumeScanRequest(m_module.module()) && m_phase == Phase::Idle)
         startScan();
 }
 
 void ScanViewModel::startScan()
 {
-    if (std::shared_ptr<const JunkScanner> fresh = scanner(m_module, *m_host.files))
+    if (std::shared_ptr<const JunkScanner> fresh = scanner(m_module.module(), *m_host.files))
         start(std::move(fresh));
 }
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "Core/Modules.h"
 #include "Platform/Host.h"
+#include "UI/ModuleViewModel.h"
 #include "UI/Navigation.h"
 #include "UI/Scan/CleanFailuresModel.h"
 #include "UI/Scan/CleanedTexts.h"
@@ -28,6 +28,7 @@ class ScanViewModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the application, one for each screen")
+    Q_PROPERTY(Korvane::ModuleViewModel* module READ module CONSTANT)
     Q_PROPERTY(Phase phase READ phase NOTIFY phaseChanged)
     Q_PROPERTY(Korvane::ScanProgressTexts progress READ progressTexts NOTIFY progressChanged)
     Q_PROPERTY(Korvane::ScanResultsModel* rows READ rows CONSTANT)
@@ -49,12 +50,12 @@ public:
     /// `navigation` must live longer than the view model.
     ScanViewModel(CleanerModule module, Host host, Navigation& navigation, QObject* parent = nullptr);
     ~ScanViewModel() override;
+    ModuleViewModel* module() { return &m_module; }
     Phase phase() const { return m_phase; }
     /// The last report of the running scan.
     const ScanProgress& progress() const { return m_progress; }
     /// The findings of the last completed scan, in the order of the scanner.
     const std::vector<ScanItem>& items() const { return m_rows.findings().items(); }
-    /// The items that the user has ticked.
     const ScanSelection& selection() const { return m_rows.selection(); }
     /// The outcome of the cleaning while the phase is Cleaned.
     const Cleaner::Result& result() const { return m_result; }
@@ -75,8 +76,7 @@ public:
     void start(std::shared_ptr<const JunkScanner> scanner);
     /// Cleans the ticked items; does nothing unless findings are shown.
     void clean(bool moveToTrash);
-    /// To be called when the screen is shown: from now on takes up the scans that are asked for elsewhere.
-    Q_INVOKABLE void appear();
+    Q_INVOKABLE void appear(); ///< To be called when the screen is shown: takes up the scans asked for elsewhere.
     Q_INVOKABLE void startScan(); ///< Begins a scan with a fresh scanner of the module.
     /// Gives up the running scan, if any, and goes back to idle at once, with nothing found.
     Q_INVOKABLE void cancel();
@@ -103,7 +103,7 @@ private:
     void finishScan(std::optional<ScanOutcome> outcome);
     void finishClean(Cleaner::Result result);
 
-    const CleanerModule m_module;
+    ModuleViewModel m_module;
     const Host m_host;
     Navigation& m_navigation;
     Phase m_phase = Phase::Idle;

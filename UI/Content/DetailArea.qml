@@ -33,8 +33,20 @@ Item {
         }
         ModuleOverview {
             anchors.fill: parent
-            visible: module !== null
+            visible: module !== null && !module.generic
             module: detail.viewModel.selectedModule
+        }
+        // A repeater of at most one: a screen keeps its view model for life, also while it is being replaced.
+        Repeater {
+            model: detail.viewModel.scan === null ? [] : [detail.viewModel.scan]
+
+            ScanView {
+                required property ScanViewModel modelData
+
+                anchors.fill: parent
+                focus: true
+                viewModel: modelData
+            }
         }
     }
 }

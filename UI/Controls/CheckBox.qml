@@ -11,8 +11,6 @@ import Korvane.UI
 T.CheckBox {
     id: control
 
-    readonly property bool on: control.checkState !== Qt.Unchecked
-
     implicitWidth: indicator.width + (control.text === "" ? 0 : control.spacing + implicitContentWidth)
     implicitHeight: Math.max(24, implicitContentHeight)
     spacing: Theme.spacing
@@ -23,29 +21,13 @@ T.CheckBox {
     font.pixelSize: Theme.body
     Accessible.name: control.text
 
-    indicator: Rectangle {
+    indicator: CheckMark {
         y: (control.height - height) / 2
         x: control.mirrored ? control.width - width : 0
-        width: 18
-        height: 18
-        radius: 5
-        color: control.on ? Theme.prominentFill : Theme.controlFill
-        border.width: control.on ? 0 : 1
-        border.color: control.hovered ? Theme.tertiaryLabel : Theme.controlBorder
+        checkState: control.checkState
+        down: control.down
+        hovered: control.hovered
 
-        Rectangle {
-            anchors.fill: parent
-            radius: parent.radius
-            color: Theme.pressedFill
-            visible: control.down
-        }
-        Symbol {
-            anchors.centerIn: parent
-            size: 14
-            name: control.checkState === Qt.PartiallyChecked ? "minus" : "checkmark"
-            color: Theme.onAccent
-            visible: control.on
-        }
         FocusRing {
             shown: control.visualFocus
             around: parent.radius

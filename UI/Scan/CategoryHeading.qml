@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Korvane.UI
+
+/// The sticky heading of a category in a `ResultsList`: its name, how much it holds, and a box that ticks all of it.
+///
+/// On Qt 6.4 a list makes its headings in a context in which a component of another file cannot be bound, so this one is
+/// loaded by its address, is given nothing but the category, and finds its list by itself.
+Rectangle {
+    id: heading
+
+    required property string section
+
+    readonly property ResultsList list: heading.parent === null ? null : heading.parent.parent as ResultsList
+    readonly property ScanResultsModel rows: heading.list === null ? null : heading.list.viewModel.rows
+    property var category: ({ sizeText: "", itemCount: 0, tickedCount: 0 })
+
+    function refresh(): void {
+        if (heading.rows !== null)
+            heading.category = heading.rows.category(heading.section);
+    }
+
+    width: heading.list === null ? 0 : heading.list.width
+    implicitHeight: 44
+    // The card's own colour, but opaque: rows pass beneath.
+    color: Qt.tint(Theme.window, Theme.cardBackground)
+    radius: Theme.radiusCard
+    onRowsChanged: heading.refresh()
+    onSectionChanged: heading.refresh()
+
+    Connections {
+        target: heading.rows
+
+        function onTicksChanged(): void {
+            heading.refresh();
+        }
+    }
+
+    CheckBox {
+        id: all
+
+        x: 20
+        anchors.verticalCenter: parent.verticalCenter
+        focusPolicy: Qt.NoFocus
+        tristate: true
+        checkState: heading.category.tickedCount === 0 ? Qt.Unchecked
+            : heading.category.tickedCount < heading.category.itemCount ? Qt.PartiallyChecked : Qt.Checked
+        nextCheckState: () => {
+            const ticks = all.checkState !== Qt.Checked;
+            heading.rows.setCategoryTicked(heading.section, ticks);
+            return ticks ? Qt.Checked : Qt.Unchecked;
+        }
+        Accessible.name: heading.section
+    }
+    Label {
+        anchors.left: parent.left
+        anchors.leftMargin: 52
+        anchors.right: size.left
+        anchors.rightMargin: Theme.spacingLarge
+        anchors.verticalCenter: parent.verticalCenter
+        style: Label.Headline
+        elide: Text.ElideMiddle
+        text: heading.section
+        Accessible.role: Accessible.Heading
+    }
+    Label {
+        id: size
+
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.spacingHuge
+        anchors.verticalCenter: parent.verticalCenter
+        style: Label.Headline
+        color: Theme.secondaryLabel
+        text: heading.category.sizeText
+    }
+    Separator {
+        anchors.bottom: parent.bottom
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: Theme.spacingLarge
+        anchors.rightMargin: Theme.spacingLarge
+    }
+}

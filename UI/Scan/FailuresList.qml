@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.UI
+
+/// What could not be removed, each with the reason in the platform's words.
+ListView {
+    id: list
+
+    clip: true
+    activeFocusOnTab: true
+    reuseItems: true
+    boundsBehavior: Flickable.StopAtBounds
+    highlightMoveDuration: 0
+    topMargin: Theme.spacing
+    bottomMargin: Theme.spacing
+    Accessible.role: Accessible.List
+    Accessible.name: qsTr("Items that could not be removed")
+    T.ScrollBar.vertical: ScrollBar { }
+
+    delegate: Item {
+        id: row
+
+        required property string path
+        required property string message
+
+        width: list.width
+        height: 56
+        Accessible.role: Accessible.ListItem
+        Accessible.name: row.path
+        Accessible.description: row.message
+        Accessible.focusable: true
+        Accessible.focused: row.activeFocus
+
+        Rectangle {
+            anchors.fill: parent
+            anchors.leftMargin: Theme.spacing
+            anchors.rightMargin: Theme.spacing
+            radius: Theme.radius
+            color: "transparent"
+            border.width: row.activeFocus ? 2 : 0
+            border.color: Theme.focusRing
+        }
+        Symbol {
+            x: 20
+            anchors.verticalCenter: parent.verticalCenter
+            name: "exclamationmark.triangle.fill"
+            size: 18
+            color: Theme.warningLabel
+        }
+        Column {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.leftMargin: 52
+            anchors.rightMargin: Theme.spacingHuge
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 2
+
+            Label {
+                width: parent.width
+                elide: Text.ElideMiddle
+                text: row.path
+                Accessible.ignored: true
+            }
+            Label {
+                width: parent.width
+                style: Label.Callout
+                color: Theme.secondaryLabel
+                text: row.message
+                Accessible.ignored: true
+            }
+        }
+        ToolTipArea {
+            text: row.path
+        }
+    }
+}

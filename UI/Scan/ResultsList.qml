@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.UI
+
+/// The findings as rows under sticky headings. Arrow keys, Home, End and the Page keys move; Space ticks a row, with Shift
+/// its whole category; the Menu key, or Shift and F10, opens the row's menu.
+ListView {
+    id: list
+
+    required property ScanViewModel viewModel
+    /// Whether the keyboard was used last, so that the current row shows it.
+    property bool byKeyboard: false
+
+    readonly property int rowsPerPage: Math.max(1, Math.floor(list.height / 40) - 2)
+
+    function moveTo(row: int) {
+        list.currentIndex = Math.max(0, Math.min(list.count - 1, row));
+    }
+    function openMenu(itemId: string, place: Item, x: real, y: real) {
+        menu.itemId = itemId;
+        menu.parent = place;
+        menu.popup(place, x, y);
+    }
+
+    model: list.viewModel.rows
+    clip: true
+    activeFocusOnTab: true
+    reuseItems: true
+    boundsBehavior: Flickable.StopAtBounds
+    highlightMoveDuration: 0
+    bottomMargin: Theme.spacing
+    currentIndex: 0
+    Accessible.role: Accessible.List
+    Accessible.name: qsTr("Findings")
+    T.ScrollBar.vertical: ScrollBar { }
+
+    section.property: "category"
+    section.labelPositioning: ViewSection.InlineLabels | ViewSection.CurrentLabelAtStart
+    section.delegate: Qt.createComponent(Qt.resolvedUrl("CategoryHeading.qml"))
+
+    delegate: ResultRow {
+        width: list.width
+        showsFocus: list.byKeyboard
+        onToggled: list.viewModel.rows.setTicked(itemId, checked)
+        onPressed: {
+            list.byKeyboard = false;
+            list.currentIndex = index;
+        }
+        onMenuRequested: (x, y) => {
+            list.currentIndex = index;
+            list.openMenu(itemId, this, x, y);
+        }
+    }
+
+    Keys.onPressed: event => {
+        list.byKeyboard = true;
+        switch (event.key) {
+        case Qt.Key_Home:
+            list.moveTo(0);
+            break;
+        case Qt.Key_End:
+            list.moveTo(list.count - 1);
+            break;
+        case Qt.Key_PageUp:
+            list.moveTo(list.currentIndex - list.rowsPerPage);
+            break;
+        case Qt.Key_PageDown:
+            list.moveTo(list.currentIndex + list.rowsPerPage);
+            break;
+        default:
+            return;
+        }
+        event.accepted = true;
+    }
+
+    ItemMenu {
+        id: menu
+
+        actions: list.viewModel.actions
+    }
+}

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Korvane.UI
+
+/// What the module is for, and the button that starts it.
+FocusScope {
+    id: view
+
+    required property ScanViewModel viewModel
+
+    Column {
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: -Theme.spacingHuge
+        width: Math.min(parent.width - 2 * Theme.pageMargin, 520)
+        spacing: Theme.spacing
+
+        ModuleHeroIcon {
+            anchors.horizontalCenter: parent.horizontalCenter
+            viewModel: view.viewModel
+        }
+        Item {
+            width: 1
+            height: Theme.spacingMedium
+        }
+        Label {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            style: Label.LargeTitle
+            text: view.viewModel.module.title
+            Accessible.role: Accessible.Heading
+        }
+        Label {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            style: Label.Title3
+            color: Theme.secondaryLabel
+            wrapMode: Text.Wrap
+            text: view.viewModel.module.subtitle
+        }
+        Item {
+            width: 1
+            height: Theme.spacingLarge
+        }
+        Button {
+            anchors.horizontalCenter: parent.horizontalCenter
+            focus: true
+            large: true
+            kind: Button.Prominent
+            symbol: "magnifyingglass"
+            text: qsTr("Start Scan")
+            onClicked: view.viewModel.startScan()
+        }
+    }
+}
