@@ -49,8 +49,8 @@ void ContentViewModel::renewScan()
     const bool hasScan = selected && selected->isGeneric();
     if (hasScan && m_scan && m_scan->module()->module() == selected->module())
         return;
-    ScanViewModel* gone = std::exchange(
-        m_scan, hasScan ? new ScanViewModel(selected->module(), m_host, m_navigation, this) : nullptr);
+    ScanViewModel* gone
+        = std::exchange(m_scan, hasScan ? new ScanViewModel(selected->module(), m_host, m_navigation, this) : nullptr);
     Q_EMIT scanChanged();
     // The old screen, which goes once control returns to the event loop, still names it until then.
     if (gone)

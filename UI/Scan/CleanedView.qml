@@ -12,6 +12,8 @@ FocusScope {
 
     required property ScanViewModel viewModel
     property bool unfolded: false
+    /// Whether a change of layout is one that the user asked for, and is shown as a movement.
+    property bool moves: false
 
     readonly property bool hasFailures: view.viewModel.result.failuresLine !== ""
 
@@ -25,6 +27,8 @@ FocusScope {
         spacing: Theme.spacing
 
         Behavior on y {
+            enabled: view.moves
+
             NumberAnimation {
                 duration: Theme.durationLong
                 easing.type: Easing.OutCubic
@@ -76,7 +80,10 @@ FocusScope {
                 large: true
                 symbol: view.unfolded ? "chevron.down" : "chevron.right"
                 text: view.unfolded ? qsTr("Hide Details") : qsTr("Show Details")
-                onClicked: view.unfolded = !view.unfolded
+                onClicked: {
+                    view.moves = true;
+                    view.unfolded = !view.unfolded;
+                }
             }
             Button {
                 focus: true

@@ -51,9 +51,14 @@ T.CheckDelegate {
         }
     }
 
-    TapHandler {
-        acceptedButtons: Qt.RightButton
-        onTapped: eventPoint => row.menuRequested(eventPoint.position.x, eventPoint.position.y)
+    // On an item of its own: a handler makes the item that it is on take every button, and the right one would tick.
+    Item {
+        anchors.fill: parent
+
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+            onTapped: eventPoint => row.menuRequested(eventPoint.position.x, eventPoint.position.y)
+        }
     }
 
     indicator: CheckMark {

@@ -53,6 +53,7 @@ ListView {
         }
         onMenuRequested: (x, y) => {
             list.currentIndex = index;
+            list.forceActiveFocus();
             list.openMenu(itemId, this, x, y);
         }
     }

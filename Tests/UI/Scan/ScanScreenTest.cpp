@@ -1,0 +1,287 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "App/KorvaneApp.h"
+#include "Core/Scanning/FormattedBytes.h"
+#include "Tests/Support/Sentinel.h"
+#include "Tests/Support/TestHost.h"
+#include "Tests/UI/Support/QmlWarnings.h"
+#include "Tests/UI/Support/Screen.h"
+#include "UI/PreferenceKeys.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QTest>
+#include <QThreadPool>
+
+#include <filesystem>
+#include <memory>
+
+using namespace Korvane;
+namespace fs = std::filesystem;
+
+namespace {
+
+QString utf8(const char* text) { return QString::fromUtf8(text); }
+
+/// The check box of a found item, as tall as its row; null when it cannot be seen.
+QQuickItem* rowIn(QQuickItem* item, const QString& name)
+{
+    if (!item->isVisible())
+        return nullptr;
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(item);
+    if (interface && item->inherits("QQuickCheckDelegate") && interface->text(QAccessible::Name) == name)
+        return item;
+    for (QQuickItem* child : item->childItems()) {
+        if (QQuickItem* found = rowIn(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+/// Presses an item once it has come to rest.
+void clickAtRest(QQuickItem* item)
+{
+    QPointF before;
+    do {
+        before = item->mapToScene(QPointF());
+        QTest::qWait(50);
+    } while (item->mapToScene(QPointF()) != before);
+    click(item);
+}
+
+enum class Tick { None, Off, On };
+
+} // namespace
+
+/// The real window on a real home, from the first press to the Trash. Every warning fails the test that caused it.
+class ScanScreenTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void scansTogglesCleansAndFindsItInTheTrash();
+    void doesEverythingFromTheKeyboard();
+    void escapeLeavesTheConfirmationWithoutCleaning();
+    void deletesForGoodWhenThePreferenceSaysSo();
+    void aHomeWithoutJunkIsAllClean();
+    void smartScanOpensTheScreenAndScans();
+    void goingElsewhereAndComingBackBeginsAfresh();
+
+private:
+    QQuickWindow* window() const { return m_app->mainWindow(); }
+    QQuickItem* named(const char* name) const { return control(window(), utf8(name)); }
+    QQuickItem* row(const char* name) const { return rowIn(window()->contentItem(), utf8(name)); }
+    Tick tick(const char* name) const;
+    bool shows(const QString& text) const { return visibleTexts(window()).contains(text); }
+    fs::path home() const { return m_test->host.environment.home; }
+    fs::path trash() const { return m_test->host.environment.dataHome() / "Trash"; }
+    void press(const char* name) const;
+    void pressRow(const char* name) const;
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+    void tabTo(const char* name) const;
+    void makeCaches() const;
+    void scan() const;
+
+    std::unique_ptr<QmlWarnings> m_warnings;
+    std::unique_ptr<TemporaryFolder> m_folder;
+    std::unique_ptr<TestHost> m_test;
+    std::unique_ptr<Sentinel> m_sentinel;
+    std::unique_ptr<KorvaneApp> m_app;
+};
+
+void ScanScreenTest::init()
+{
+    m_warnings = std::make_unique<QmlWarnings>();
+    m_folder = std::make_unique<TemporaryFolder>();
+    m_test = std::make_unique<TestHost>(makeTestHost(*m_folder));
+    m_sentinel = std::make_unique<Sentinel>(home() / "Documents/letter.txt");
+    m_app = std::make_unique<KorvaneApp>(m_test->host);
+    QVERIFY(m_app->start());
+    QVERIFY(QTest::qWaitForWindowExposed(window()));
+    window()->requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(window()));
+}
+
+void ScanScreenTest::cleanup()
+{
+    m_app.reset();
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+    const QStringList warnings = m_warnings->texts();
+    m_warnings.reset();
+    QCOMPARE(warnings, QStringList());
+    QVERIFY2(m_sentinel->isUnchanged(), m_sentinel->difference().c_str());
+}
+
+void ScanScreenTest::press(const char* name) const
+{
+    QTRY_VERIFY2(named(name), name);
+    QTRY_VERIFY2(named(name)->isEnabled(), name);
+    clickAtRest(named(name));
+}
+
+Tick ScanScreenTest::tick(const char* name) const
+{
+    QQuickItem* item = row(name);
+    if (item == nullptr)
+        return Tick::None;
+    return QAccessible::queryAccessibleInterface(item)->state().checked ? Tick::On : Tick::Off;
+}
+
+void ScanScreenTest::pressRow(const char* name) const
+{
+    QTRY_VERIFY2(row(name), name);
+    clickAtRest(row(name));
+}
+
+void ScanScreenTest::key(Qt::Key key, Qt::KeyboardModifiers modifiers) const
+{
+    QTest::keyClick(window(), key, modifiers);
+}
+
+void ScanScreenTest::tabTo(const char* name) const
+{
+    for (int steps = 0; steps < 60; ++steps) {
+        if (accessibleName(window()->activeFocusItem()) == utf8(name))
+            return;
+        key(Qt::Key_Tab);
+    }
+    QFAIL(qPrintable(utf8("Tab does not lead to ") + utf8(name)));
+}
+
+void ScanScreenTest::makeCaches() const
+{
+    writeFile(home() / "Library/Caches/org.example.maps/tiles/1.png", std::size_t{ 900'000 });
+    writeFile(home() / "Library/Caches/org.example.mail/index", std::size_t{ 400'000 });
+    writeFile(home() / "Library/Caches/com.apple.thumbnails/db", std::size_t{ 200'000 });
+    writeFile(home() / "Library/Logs/example.log", std::size_t{ 100'000 });
+}
+
+void ScanScreenTest::scan() const
+{
+    press("System Junk");
+    press("Start Scan");
+    QTRY_VERIFY(named("Clean"));
+}
+
+void ScanScreenTest::scansTogglesCleansAndFindsItInTheTrash()
+{
+    makeCaches();
+    scan();
+    QVERIFY(shows("User Caches") && shows("Log Files"));
+    QVERIFY(tick("org.example.maps") == Tick::On);
+    QVERIFY(tick("example.log") == Tick::On);
+    QVERIFY(tick("com.apple.thumbnails") == Tick::Off);
+
+    pressRow("org.example.mail");
+    QTRY_VERIFY(tick("org.example.mail") == Tick::Off);
+    press("Select All");
+    QTRY_VERIFY(named("Deselect All"));
+    QVERIFY(tick("com.apple.thumbnails") == Tick::On && tick("org.example.mail") == Tick::On);
+    pressRow("com.apple.thumbnails");
+    QTRY_VERIFY(named("Select All"));
+
+    press("Clean");
+    press("Move to Trash");
+    QTRY_VERIFY(named("Scan Again"));
+    QVERIFY(shows("3 items moved to Trash or removed"));
+    for (const char* name : { "org.example.maps", "org.example.mail", "example.log" }) {
+        QVERIFY2(fs::exists(trash() / "files" / name), name);
+        QVERIFY2(fs::exists(trash() / "info" / (std::string(name) + ".trashinfo")), name);
+    }
+    QVERIFY(fs::exists(trash() / "files/org.example.maps/tiles/1.png"));
+    QVERIFY(fs::exists(home() / "Library/Caches/com.apple.thumbnails/db"));
+    QVERIFY(!fs::exists(home() / "Library/Caches/org.example.maps"));
+    const std::int64_t bytes = m_test->host.defaults->integerForKey(PreferenceKeys::lastCleanedBytes, 0);
+    QVERIFY(bytes >= 1'400'000);
+    QVERIFY(shows(QString::fromStdString(formattedBytes(bytes)) + utf8(" cleaned")));
+}
+
+void ScanScreenTest::doesEverythingFromTheKeyboard()
+{
+    makeCaches();
+    tabTo("System Junk");
+    key(Qt::Key_Return);
+    tabTo("Start Scan");
+    key(Qt::Key_Return);
+    QTRY_VERIFY(named("Clean"));
+    tabTo("org.example.maps");
+    key(Qt::Key_Space);
+    QTRY_VERIFY(tick("org.example.maps") == Tick::Off);
+    key(Qt::Key_Down);
+    QTRY_COMPARE(accessibleName(window()->activeFocusItem()), utf8("org.example.mail"));
+    key(Qt::Key_End);
+    QTRY_COMPARE(accessibleName(window()->activeFocusItem()), utf8("example.log"));
+    key(Qt::Key_Space);
+    QTRY_VERIFY(tick("example.log") == Tick::Off);
+    tabTo("Clean");
+    key(Qt::Key_Return);
+    tabTo("Move to Trash");
+    key(Qt::Key_Return);
+    QTRY_VERIFY(named("Scan Again"));
+    QVERIFY(shows("1 items moved to Trash or removed"));
+    QVERIFY(fs::exists(trash() / "files/org.example.mail/index"));
+    QVERIFY(fs::exists(home() / "Library/Caches/org.example.maps/tiles/1.png"));
+    QVERIFY(fs::exists(home() / "Library/Logs/example.log"));
+}
+
+void ScanScreenTest::escapeLeavesTheConfirmationWithoutCleaning()
+{
+    makeCaches();
+    scan();
+    press("Clean");
+    QTRY_VERIFY(named("Move to Trash"));
+    key(Qt::Key_Escape);
+    QTRY_VERIFY(!named("Move to Trash"));
+    QVERIFY(named("Clean"));
+    QVERIFY(fs::exists(home() / "Library/Caches/org.example.maps"));
+}
+
+void ScanScreenTest::deletesForGoodWhenThePreferenceSaysSo()
+{
+    makeCaches();
+    m_test->host.defaults->setBool(PreferenceKeys::moveToTrashInsteadOfDelete, false);
+    scan();
+    press("Clean");
+    QTRY_VERIFY(named("Delete Permanently"));
+    press("Delete Permanently");
+    QTRY_VERIFY(named("Scan Again"));
+    QVERIFY(!fs::exists(home() / "Library/Caches/org.example.maps"));
+    QVERIFY(!fs::exists(trash() / "files/org.example.maps"));
+}
+
+void ScanScreenTest::aHomeWithoutJunkIsAllClean()
+{
+    press("System Junk");
+    press("Start Scan");
+    QTRY_VERIFY(named("Scan Again"));
+    QVERIFY(shows("All Clean!"));
+    QVERIFY(shows("Nothing found to clean in this module."));
+    press("Scan Again");
+    QTRY_VERIFY(named("Scan Again"));
+}
+
+void ScanScreenTest::smartScanOpensTheScreenAndScans()
+{
+    makeCaches();
+    press("Smart Scan");
+    QTRY_VERIFY(named("Clean"));
+    QVERIFY(row("org.example.maps"));
+}
+
+void ScanScreenTest::goingElsewhereAndComingBackBeginsAfresh()
+{
+    makeCaches();
+    scan();
+    press("Duplicates");
+    QTRY_VERIFY(named("Start Scan"));
+    press("System Junk");
+    QTRY_VERIFY(named("Start Scan"));
+    QVERIFY(!named("Clean"));
+}
+
+QTEST_MAIN(ScanScreenTest)
+#include "ScanScreenTest.moc"
