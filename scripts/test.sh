@@ -30,8 +30,9 @@ finish() {
 trap finish EXIT
 begin() { step="$1"; say "== $step"; }
 
-begin "building everything, warnings as errors"
-cmake --preset release -DKORVANE_BUILD_TESTS=ON -DKORVANE_WARNINGS_AS_ERRORS=ON
+begin "building everything"
+# On the way into the project a warning is an error; on a newer compiler than ours it is nobody's fault.
+cmake --preset release -DKORVANE_BUILD_TESTS=ON ${CI:+-DKORVANE_WARNINGS_AS_ERRORS=ON}
 build release
 
 begin "running every test"
