@@ -18,6 +18,7 @@ FileAttributes attributesOfItem(const std::filesystem::path& path)
         return attributes;
     attributes.exists = true;
     attributes.isDirectory = S_ISDIR(status.st_mode);
+    attributes.isLink = S_ISLNK(status.st_mode);
     attributes.isOwnedByCurrentUser = status.st_uid == ::geteuid();
     attributes.isSharedSticky
         = attributes.isDirectory && (status.st_mode & S_ISVTX) != 0 && (status.st_mode & (S_IWGRP | S_IWOTH)) != 0;

@@ -9,10 +9,11 @@
 
 namespace Korvane {
 
-/// What the rules about shared temporary folders need to know of one entry; links are not followed.
+/// What the rules need to know of one entry beside its size; links are not followed.
 struct FileAttributes {
     bool exists = false;
     bool isDirectory = false;
+    bool isLink = false;
     bool isOwnedByCurrentUser = false;
     bool isSharedSticky = false; ///< A folder with the sticky bit that others may write to, like "/tmp".
     bool isSocketOrPipe = false;

@@ -4,6 +4,7 @@
 #include "Core/Cleaning/Cleaner.h"
 
 #include "Platform/Checked.h"
+#include "Platform/FileAttributes.h"
 #include "Platform/FileError.h"
 
 #include <exception>
@@ -38,7 +39,8 @@ std::vector<std::filesystem::path> childrenOfTrash(const std::filesystem::path& 
 
 void emptyTrash(const std::filesystem::path& trash, const TrashFolders& folders, FileManager& files)
 {
-    if (trash.native() != folders.user.native()) {
+    // A link in place of the user's Trash is refused there: what it leads to was never thrown away.
+    if (trash.native() != folders.user.native() || attributesOfItem(trash).isLink) {
         files.emptyTrash(trash);
         return;
     }

@@ -78,6 +78,18 @@ TEST_F(CleanerTrashTest, EmptyingStopsAtTheFirstChildThatCannotBeDeleted)
     EXPECT_TRUE(std::filesystem::exists(order[2]));
 }
 
+TEST_F(CleanerTrashTest, TrashThatIsALinkIsAFailureAndWhatItLeadsToIsKept)
+{
+    const auto kept = makeFile("Pictures/holiday.jpg");
+    std::filesystem::create_directory_symlink(home() / "Pictures", home() / ".Trash");
+    const auto result = clean({ item(home() / ".Trash", 7) }, Removal::MoveToTrash);
+    EXPECT_EQ(result.cleanedCount, 0);
+    ASSERT_EQ(result.failures.size(), 1U);
+    EXPECT_NE(result.failures[0].message.find("is a link"), std::string::npos) << result.failures[0].message;
+    EXPECT_TRUE(std::filesystem::exists(kept));
+    EXPECT_TRUE(std::filesystem::is_symlink(home() / ".Trash"));
+}
+
 TEST_F(CleanerTrashTest, ItemInsideTheTrashIsDeletedThoughTheTrashWasAskedFor)
 {
     const auto file = makeFile(".Trash/inner/old.log");
