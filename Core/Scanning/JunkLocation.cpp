@@ -36,20 +36,33 @@ std::vector<JunkLocation> fixedLocations(const FileManager& files)
     };
 }
 
+/// Whether all that a place holds, or each thing in it, is listed as long as the place is there.
+bool isListedWhole(const JunkLocation& location)
+{
+    // What lies in a shared temporary directory is told apart child by child, and may be a place of its own.
+    if (location.expansion == Expansion::EachUnusedChild)
+        return false;
+    // A link in the place of a whole folder is measured as a link: what it leads to is not listed by it.
+    return location.expansion == Expansion::EachChild || !attributesOfItem(location.url).isLink;
+}
+
 } // namespace
 
 std::vector<JunkLocation> junkLocations(const Host& host)
 {
     auto locations = fixedLocations(*host.files);
+    PlaceOverlap home;
+    home.add(host.files->homeDirectoryForCurrentUser());
     PlaceOverlap taken;
     taken.add(host.files->homeDirectoryForCurrentUser() / "Library");
     for (const auto& location : locations) {
-        // What lies in a shared temporary directory is told apart child by child, and may be a place of its own.
-        if (location.expansion != Expansion::EachUnusedChild)
+        if (isListedWhole(location))
             taken.add(location.url);
     }
     const auto addOwn = [&](const std::filesystem::path& url, std::string_view category, Expansion expansion) {
-        if (taken.overlaps(url) || attributesOfItem(url).isSharedSticky)
+        // A place that lies in one that is expanded is left out there, as a child.
+        const bool isTaken = expansion == Expansion::EachChild ? taken.isOrLiesInPlace(url) : taken.overlaps(url);
+        if (isTaken || home.isOrContainsPlace(url) || attributesOfItem(url).isSharedSticky)
             return;
         taken.add(url);
         locations.push_back({ url, category, expansion, Provider::Host });

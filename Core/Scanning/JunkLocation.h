@@ -39,8 +39,9 @@ struct JunkLocation {
 
 /// The six places that every host has, in the order in which they are looked at, then this host's own.
 ///
-/// A place of the host that is, contains or lies in another one is left out: nothing is listed twice. A place that
-/// is no absolute path is left out: it would lead to wherever the program happens to have been started.
+/// A place of the host that is or lies in another one, or holds the home folder, is left out: nothing is listed twice.
+/// So is a Trash that holds another place; in a cache directory it is the child that holds one which is not listed.
+/// A place that is no absolute path is left out: it would lead to wherever the program happens to have been started.
 std::vector<JunkLocation> junkLocations(const Host& host);
 
 } // namespace Korvane

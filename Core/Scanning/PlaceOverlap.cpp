@@ -37,6 +37,13 @@ bool PlaceOverlap::overlaps(const std::filesystem::path& folder) const
         [&](const std::filesystem::path& place) { return isOrLiesIn(place, real) || isOrLiesIn(real, place); });
 }
 
+bool PlaceOverlap::isOrLiesInPlace(const std::filesystem::path& folder) const
+{
+    const auto real = resolved(folder);
+    return std::any_of(
+        m_places.begin(), m_places.end(), [&](const std::filesystem::path& place) { return isOrLiesIn(real, place); });
+}
+
 bool PlaceOverlap::isOrContainsPlace(const std::filesystem::path& folder) const
 {
     const auto real = resolved(folder);

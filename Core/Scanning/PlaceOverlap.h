@@ -17,6 +17,8 @@ public:
 
     /// Whether `folder` is one of the places, contains one, or lies in one.
     bool overlaps(const std::filesystem::path& folder) const;
+    /// Whether `folder` is one of the places or lies in one.
+    bool isOrLiesInPlace(const std::filesystem::path& folder) const;
     /// Whether `folder` is one of the places or contains one.
     bool isOrContainsPlace(const std::filesystem::path& folder) const;
 

@@ -71,10 +71,7 @@ private:
             addIfNotEmpty(location.url, location, false);
             return;
         case Expansion::EachChild:
-            for (const auto& child : visibleChildren(location.url)) {
-                m_cancellation.throwIfCancelled();
-                addIfNotEmpty(child, location, isSelectable(child, location));
-            }
+            scanEachChild(location);
             return;
         case Expansion::EachUnusedChild:
             scanSharedFolder(location);
@@ -82,7 +79,20 @@ private:
         }
     }
 
-    void scanSharedFolder(const JunkLocation& location)
+    void scanEachChild(const JunkLocation& location)
+    {
+        const auto others = placesBeside(location);
+        for (const auto& child : visibleChildren(location.url)) {
+            m_cancellation.throwIfCancelled();
+            // What holds a place of its own is not offered as a cache, nor is that place listed twice.
+            if (location.provider == Provider::Host && others.isOrContainsPlace(child))
+                continue;
+            addIfNotEmpty(child, location, isSelectable(child, location));
+        }
+    }
+
+    /// The home folder and all places but this one.
+    PlaceOverlap placesBeside(const JunkLocation& location) const
     {
         PlaceOverlap others;
         others.add(m_host.files->homeDirectoryForCurrentUser());
@@ -90,7 +100,12 @@ private:
             if (&other != &location)
                 others.add(other.url);
         }
-        const SharedTemporaryFolder shared(std::move(others), std::chrono::system_clock::now());
+        return others;
+    }
+
+    void scanSharedFolder(const JunkLocation& location)
+    {
+        const SharedTemporaryFolder shared(placesBeside(location), std::chrono::system_clock::now());
         for (const auto& child : visibleChildren(location.url)) {
             m_cancellation.throwIfCancelled();
             if (shared.isUnused(child, m_cancellation))

@@ -103,6 +103,26 @@ TEST_F(SystemJunkHostPlacesTest, CacheDirectoryInsideAnotherPlaceIsNotListedTwic
     EXPECT_EQ(urls(scanJunk()), std::vector{ temporary() });
 }
 
+TEST_F(SystemJunkHostPlacesTest, TemporaryDirectoryInsideTheCacheDirectoryIsLeftOutThere)
+{
+    auto environment = host().environment;
+    environment.temporaryDirectory = home() / ".cache/scratch/tmp";
+    useEnvironment(environment);
+    writeFile(home() / ".cache/scratch/tmp/file", std::size_t{ 50'000 });
+    writeFile(home() / ".cache/player/data", std::size_t{ 5000 });
+    const auto items = scanJunk();
+    ASSERT_EQ(urls(items), (std::vector{ home() / ".cache/scratch/tmp", home() / ".cache/player" }));
+    EXPECT_EQ(items[0].category, "Temporary Files");
+    EXPECT_EQ(items[1].category, "User Caches");
+}
+
+TEST_F(SystemJunkHostPlacesTest, TrashThatIsALinkToTheFreedesktopTrashDoesNotHideIt)
+{
+    writeFile(home() / ".local/share/Trash/files/old.log", std::size_t{ 5000 });
+    std::filesystem::create_directory_symlink(".local/share/Trash", home() / ".Trash");
+    EXPECT_NE(itemAt(scanJunk(), home() / ".local/share/Trash"), nullptr);
+}
+
 TEST_F(SystemJunkHostPlacesTest, FreedesktopTrashIsOneItemThatIsNeverPreselected)
 {
     writeFile(home() / "old.log", std::size_t{ 5000 });
