@@ -83,7 +83,8 @@ bool SharedTemporaryFolder::isContentUnused(const std::filesystem::path& folder,
             return false;
         if (entry->type() == EntryType::RegularFile && lockQuestionsLeft > 0) {
             --lockQuestionsLeft;
-            if (attributesOfItem(entry->path()).isLocked)
+            const auto attributes = attributesOfItem(entry->path());
+            if (!attributes.exists || attributes.isLocked)
                 return false;
         }
     }
