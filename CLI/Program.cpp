@@ -101,7 +101,7 @@ ExitStatus Program::clean(const CommandLine& line)
     const bool isJson = line.format == Format::Json;
     const auto items = chosen(line);
     if (line.confirmation == CommandLine::Confirmation::Missing) {
-        CleaningPlan plan{ line.module, {} };
+        CleaningPlan plan{ line.module, line.selection, {} };
         const bool moveToTrash = line.removal == CommandLine::Removal::MoveToTrash;
         for (const auto& item : items)
             plan.steps.push_back({ item, Cleaner::action(item.url, moveToTrash, *m_host.files) });

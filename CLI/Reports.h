@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "CLI/CommandLine.h"
 #include "Core/Cleaning/Cleaner.h"
 #include "Core/Modules.h"
 #include "Core/Scanning/ScanItem.h"
@@ -21,6 +22,7 @@ struct CleaningPlan {
     };
 
     CleanerModule module;
+    CommandLine::Selection selection;
     std::vector<Step> steps;
 };
 

@@ -22,6 +22,8 @@ namespace {
 constexpr std::size_t sizeWidth = 11;
 constexpr std::size_t countWidth = 14;
 
+constexpr const char* nothingFound = "Nothing found to clean in this module.\n";
+
 /// Items under one heading.
 struct Group {
     std::string_view category;
@@ -78,7 +80,7 @@ void appendSteps(std::string& text, const CleaningPlan& plan, Cleaner::Action ac
 std::string findingsAsText(const std::vector<ScanItem>& items)
 {
     if (items.empty())
-        return "Nothing found to clean in this module.\n";
+        return nothingFound;
     const auto found = groups(items);
     std::size_t width = 0;
     for (const auto& group : found)
@@ -106,6 +108,8 @@ std::string findingsAsText(const std::vector<ScanItem>& items)
 
 std::string planAsText(const CleaningPlan& plan)
 {
+    if (plan.steps.empty() && plan.selection == CommandLine::Selection::All)
+        return nothingFound;
     if (plan.steps.empty())
         return "There is nothing to do: no finding is pre-selected. --all and --item take others.\n";
     std::string text;

@@ -6,7 +6,6 @@
 
 #include <chrono>
 #include <csignal>
-#include <thread>
 
 namespace Korvane {
 
@@ -61,6 +60,10 @@ TEST_F(ProgramTest, EmptyHomeHasNothingToClean)
     EXPECT_EQ(output, "Nothing found to clean in this module.\n");
     EXPECT_EQ(run({ "scan", "systemJunk", "--json" }), 0);
     EXPECT_EQ(output, "{\"module\":\"systemJunk\",\"items\":[],\"totalBytes\":0}\n");
+    EXPECT_EQ(run({ "clean", "systemJunk", "--all" }), 0);
+    EXPECT_EQ(output, "Nothing found to clean in this module.\n");
+    EXPECT_EQ(run({ "clean", "systemJunk" }), 0);
+    EXPECT_NE(output.find("no finding is pre-selected"), std::string::npos) << output;
 }
 
 TEST_F(ProgramTest, ScanPrintsGroupsWithSizesAndChangesNothing)
@@ -177,8 +180,8 @@ TEST_F(ProgramTest, InterruptedScanEndsAtOnceAndReportsNothing)
         writeFile(home() / ("f" + std::to_string(i)), std::string_view());
         std::filesystem::resize_file(home() / ("f" + std::to_string(i)), 8'388'608);
     }
-    ProgramRun program(folder.path(), { "scan", "duplicates", "--json" });
-    std::this_thread::sleep_for(500ms);
+    ProgramRun program(folder.path(), { "scan", "duplicates", "--json" }, Output::Captured, Errors::Terminal);
+    ASSERT_TRUE(program.waitForTerminalText(" found, "));
     const auto start = std::chrono::steady_clock::now();
     program.signal(SIGINT);
     program.finish();
