@@ -59,7 +59,7 @@ FocusScope {
         function show(): void {
             const focused = stage.T.ApplicationWindow.activeFocusControl as T.Control;
             const byKeyboard = focused !== null && focused.visualFocus;
-            const hadFocus = screen.activeFocus;
+            const hadFocus = screen.activeFocus || confirmation.visible;
             const previous = stage.current;
             stage.current = stage.component().createObject(stage) as Item;
             if (hadFocus)

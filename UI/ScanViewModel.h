@@ -34,7 +34,7 @@ class ScanViewModel : public QObject {
     Q_PROPERTY(Korvane::ScanResultsModel* rows READ rows CONSTANT)
     Q_PROPERTY(Korvane::ScanItemActions* actions READ actions CONSTANT)
     Q_PROPERTY(bool hasItems READ hasItems NOTIFY phaseChanged)
-    Q_PROPERTY(qint64 selectedBytes READ selectedBytes NOTIFY selectionChanged)
+    Q_PROPERTY(double selectedBytes READ selectedBytes NOTIFY selectionChanged)
     Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY selectionChanged)
     Q_PROPERTY(bool allSelectableSelected READ allSelectableSelected NOTIFY selectionChanged)
     Q_PROPERTY(QString totalText READ totalText NOTIFY phaseChanged)

@@ -33,9 +33,9 @@ Rectangle {
     onSectionChanged: heading.refresh()
 
     Connections {
-        target: heading.rows
+        target: heading.list === null ? null : heading.list.viewModel
 
-        function onTicksChanged(): void {
+        function onSelectionChanged(): void {
             heading.refresh();
         }
     }

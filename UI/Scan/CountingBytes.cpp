@@ -15,12 +15,12 @@ CountingBytes::CountingBytes(QObject* parent)
     m_counting.setEasingCurve(QEasingCurve::OutCubic);
     connect(&m_counting, &QVariantAnimation::valueChanged, this,
         [this](const QVariant& value) { show(static_cast<qint64>(value.toDouble())); });
-    // The way there is counted in floating point, which the largest numbers do not fit; the end is exact.
     connect(&m_counting, &QVariantAnimation::finished, this, [this] { show(m_bytes); });
 }
 
-void CountingBytes::setBytes(qint64 bytes)
+void CountingBytes::setBytes(double value)
 {
+    const auto bytes = static_cast<qint64>(value);
     if (m_hasValue && m_bytes == bytes)
         return;
     const bool counts = m_hasValue && m_counting.duration() > 0;

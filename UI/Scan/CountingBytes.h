@@ -16,7 +16,7 @@ namespace Korvane {
 class CountingBytes : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(qint64 bytes READ bytes WRITE setBytes NOTIFY bytesChanged)
+    Q_PROPERTY(double bytes READ bytes WRITE setBytes NOTIFY bytesChanged)
     Q_PROPERTY(int duration READ duration WRITE setDuration NOTIFY durationChanged)
     Q_PROPERTY(QString text READ text NOTIFY textChanged)
     Q_PROPERTY(QString finalText READ finalText NOTIFY bytesChanged)
@@ -24,8 +24,8 @@ class CountingBytes : public QObject {
 public:
     explicit CountingBytes(QObject* parent = nullptr);
 
-    qint64 bytes() const { return m_bytes; }
-    void setBytes(qint64 bytes);
+    double bytes() const { return static_cast<double>(m_bytes); }
+    void setBytes(double bytes);
 
     /// How long a change takes, in milliseconds; 0 for no counting.
     int duration() const { return m_counting.duration(); }

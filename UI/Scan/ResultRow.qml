@@ -23,8 +23,15 @@ T.CheckDelegate {
     /// Whether the row that has the focus is to show it although it did not get it by Tab.
     property bool showsFocus: false
 
+    readonly property string shieldHelp: qsTr("Not selected by default — may be in use or needed by the system.")
+
     /// The menu is wanted, at this place of the row.
     signal menuRequested(real x, real y)
+
+    function press(): void {
+        row.toggle();
+        row.toggled();
+    }
 
     implicitHeight: 40
     leftPadding: 52
@@ -34,14 +41,14 @@ T.CheckDelegate {
     text: row.name
     Accessible.role: Accessible.CheckBox
     Accessible.name: row.name
-    Accessible.description: row.shielded ? row.size + ", " + row.folder + ". " + shield.help
+    Accessible.description: row.shielded ? row.size + ", " + row.folder + ". " + row.shieldHelp
                                          : row.size + ", " + row.folder
     Accessible.checkable: true
     Accessible.checked: row.checked
     Accessible.focusable: true
     Accessible.focused: row.activeFocus
-    Accessible.onPressAction: row.click()
-    Accessible.onToggleAction: row.click()
+    Accessible.onPressAction: row.press()
+    Accessible.onToggleAction: row.press()
 
     Keys.onMenuPressed: row.menuRequested(row.leftPadding, row.height)
     Keys.onPressed: event => {
@@ -69,63 +76,13 @@ T.CheckDelegate {
         hovered: row.hovered
     }
 
-    contentItem: Item {
-        Label {
-            id: nameText
-
-            anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, parent.width * (row.width > 900 ? 0.5 : 0.46))
-            elide: Text.ElideMiddle
-            text: row.name
-            Accessible.ignored: true
-        }
-        Symbol {
-            id: shield
-
-            readonly property string help: qsTr("Not selected by default — may be in use or needed by the system.")
-
-            anchors.verticalCenter: parent.verticalCenter
-            anchors.left: nameText.right
-            anchors.leftMargin: Theme.spacing
-            visible: row.shielded
-            name: "exclamationmark.shield"
-            size: 16
-            color: Theme.warningLabel
-
-            ToolTipArea {
-                text: shield.help
-            }
-        }
-        Label {
-            x: parent.width * (row.width > 900 ? 0.5 : 0.46) + Theme.spacingHuge + Theme.spacing
-            anchors.verticalCenter: parent.verticalCenter
-            width: sizeText.x - x - Theme.spacingLarge
-            style: Label.Callout
-            color: Theme.tertiaryLabel
-            elide: Text.ElideMiddle
-            text: row.folder
-            Accessible.ignored: true
-
-            ToolTipArea {
-                text: row.path
-            }
-        }
-        Label {
-            id: sizeText
-
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            width: 84
-            horizontalAlignment: Text.AlignRight
-            elide: Text.ElideNone
-            color: Theme.secondaryLabel
-            text: row.size
-            Accessible.ignored: true
-        }
-        ToolTipArea {
-            anchors.fill: nameText
-            text: row.path
-        }
+    contentItem: ResultRowContent {
+        name: row.name
+        folder: row.folder
+        path: row.path
+        size: row.size
+        shielded: row.shielded
+        shieldHelp: row.shieldHelp
     }
 
     background: Item {

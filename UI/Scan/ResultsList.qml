@@ -83,5 +83,6 @@ ListView {
         id: menu
 
         actions: list.viewModel.actions
+        onClosed: list.forceActiveFocus()
     }
 }

@@ -11,6 +11,8 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
+#include <QMimeData>
 #include <QTest>
 #include <QThreadPool>
 
@@ -67,6 +69,8 @@ private Q_SLOTS:
     void escapeLeavesTheConfirmationWithoutCleaning();
     void deletesForGoodWhenThePreferenceSaysSo();
     void aHomeWithoutJunkIsAllClean();
+    void unfoldsWhatCouldNotBeRemovedAndWhy();
+    void theRowsMenuCopiesThePathAndShowsTheItem();
     void smartScanOpensTheScreenAndScans();
     void goingElsewhereAndComingBackBeginsAfresh();
 
@@ -154,10 +158,10 @@ void ScanScreenTest::tabTo(const char* name) const
 
 void ScanScreenTest::makeCaches() const
 {
-    writeFile(home() / "Library/Caches/org.example.maps/tiles/1.png", std::size_t{ 900'000 });
-    writeFile(home() / "Library/Caches/org.example.mail/index", std::size_t{ 400'000 });
-    writeFile(home() / "Library/Caches/com.apple.thumbnails/db", std::size_t{ 200'000 });
-    writeFile(home() / "Library/Logs/example.log", std::size_t{ 100'000 });
+    writeFile(home() / "Library/Caches/org.example.maps/tiles/1.png", std::size_t { 900'000 });
+    writeFile(home() / "Library/Caches/org.example.mail/index", std::size_t { 400'000 });
+    writeFile(home() / "Library/Caches/com.apple.thumbnails/db", std::size_t { 200'000 });
+    writeFile(home() / "Library/Logs/example.log", std::size_t { 100'000 });
 }
 
 void ScanScreenTest::scan() const
@@ -262,6 +266,54 @@ void ScanScreenTest::aHomeWithoutJunkIsAllClean()
     QVERIFY(shows("Nothing found to clean in this module."));
     press("Scan Again");
     QTRY_VERIFY(named("Scan Again"));
+}
+
+void ScanScreenTest::unfoldsWhatCouldNotBeRemovedAndWhy()
+{
+    makeCaches();
+    scan();
+    fs::remove_all(home() / "Library/Caches/org.example.maps");
+    press("Clean");
+    press("Move to Trash");
+    QTRY_VERIFY(named("Scan Again"));
+    QVERIFY(shows("2 items moved to Trash or removed"));
+    QVERIFY(shows("1 items could not be removed"));
+    QTRY_VERIFY(!named("Move to Trash"));
+    QTRY_COMPARE(accessibleName(window()->activeFocusItem()), utf8("Scan Again"));
+    key(Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(accessibleName(window()->activeFocusItem()), utf8("Show Details"));
+    key(Qt::Key_Return);
+    const QString gone = QString::fromStdString((home() / "Library/Caches/org.example.maps").string());
+    QTRY_VERIFY2(shows(gone), qPrintable(visibleTexts(window()).join(" | ")));
+    QVERIFY(shows("No such file or directory"));
+    press("Hide Details");
+    QTRY_VERIFY(!shows(gone));
+}
+
+void ScanScreenTest::theRowsMenuCopiesThePathAndShowsTheItem()
+{
+    makeCaches();
+    scan();
+    QQuickItem* item = row("org.example.mail");
+    QVERIFY(item);
+    const QPoint middle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+    QTest::mouseClick(window(), Qt::RightButton, Qt::NoModifier, middle);
+    QTRY_VERIFY(shows("Copy Path"));
+    QVERIFY(tick("org.example.mail") == Tick::On);
+    key(Qt::Key_Down);
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    const std::string path = (home() / "Library/Caches/org.example.mail").string();
+    QTRY_COMPARE(QGuiApplication::clipboard()->text(), QString::fromStdString(path));
+    QTRY_VERIFY(!shows("Copy Path"));
+
+    QTRY_COMPARE(accessibleName(window()->activeFocusItem()), utf8("org.example.mail"));
+    key(Qt::Key_Menu);
+    QTRY_VERIFY(shows("Copy Path"));
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    QTRY_COMPARE(m_test->workspace->shownPaths(), std::vector<fs::path> { path });
+    QVERIFY(tick("org.example.mail") == Tick::On);
 }
 
 void ScanScreenTest::smartScanOpensTheScreenAndScans()

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Korvane.UI
+
+/// The columns of a `ResultRow` beside its box: name, place, size.
+Item {
+    id: content
+
+    required property string name
+    required property string folder
+    required property string path
+    required property string size
+    required property bool shielded
+    required property string shieldHelp
+
+    readonly property real nameColumn: content.width * (content.width > 900 ? 0.5 : 0.46)
+
+    Label {
+        id: nameText
+
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, content.nameColumn)
+        elide: Text.ElideMiddle
+        text: content.name
+        Accessible.ignored: true
+    }
+    Symbol {
+        id: shield
+
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.left: nameText.right
+        anchors.leftMargin: Theme.spacing
+        visible: content.shielded
+        name: "exclamationmark.shield"
+        size: 16
+        color: Theme.warningLabel
+
+        ToolTipArea {
+            text: content.shieldHelp
+        }
+    }
+    Label {
+        x: content.nameColumn + Theme.spacingHuge + Theme.spacing
+        anchors.verticalCenter: parent.verticalCenter
+        width: sizeText.x - x - Theme.spacingLarge
+        style: Label.Callout
+        color: Theme.tertiaryLabel
+        elide: Text.ElideMiddle
+        text: content.folder
+        Accessible.ignored: true
+
+        ToolTipArea {
+            text: content.path
+        }
+    }
+    Label {
+        id: sizeText
+
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        width: 84
+        horizontalAlignment: Text.AlignRight
+        elide: Text.ElideNone
+        color: Theme.secondaryLabel
+        text: content.size
+        Accessible.ignored: true
+    }
+    ToolTipArea {
+        anchors.fill: nameText
+        text: content.path
+    }
+}
