@@ -8,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sys/inotify.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -96,23 +95,6 @@ TEST_F(DuplicatesFaultsTest, FileReplacedByALinkOrAPipeBeforeItIsReadIsLeftOut)
         ASSERT_EQ(mkfifo((home() / "b").c_str(), 0600), 0);
     };
     EXPECT_EQ(DuplicatesScanner(home(), 100, 1000).scan(host(), replace, {}).size(), 2U);
-}
-
-TEST_F(DuplicatesFaultsTest, OnlyFilesThatShareTheirSizeAreOpened)
-{
-    make("alone", std::string(300, 'x'));
-    make("a", small);
-    make("b", small);
-    const int watcher = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
-    const int alone = inotify_add_watch(watcher, (home() / "alone").c_str(), IN_OPEN);
-    const int shared = inotify_add_watch(watcher, (home() / "a").c_str(), IN_OPEN);
-    EXPECT_EQ(scanSmall().size(), 2U);
-    alignas(inotify_event) char buffer[4096];
-    const auto size = read(watcher, buffer, sizeof buffer);
-    close(watcher);
-    ASSERT_EQ(size, static_cast<ssize_t>(sizeof(inotify_event)));
-    EXPECT_EQ(reinterpret_cast<const inotify_event*>(buffer)->wd, shared);
-    EXPECT_NE(shared, alone);
 }
 
 TEST_F(DuplicatesFaultsTest, EmptyFilesAreASetWhenTheSmallestSizeAllowsIt)

@@ -7,6 +7,7 @@
 #include "Tests/Core/ScanFixture.h"
 #include "Tests/Core/WalkOrder.h"
 #include "Tests/Support/OrdinaryUser.h"
+#include "Tests/Support/ReserveSpace.h"
 #include "Tests/Support/Sentinel.h"
 
 #include <gtest/gtest.h>
@@ -122,9 +123,9 @@ TEST_F(LargeFilesScannerTest, SparseFileIsJudgedByWhatItOccupies)
 
 TEST_F(LargeFilesScannerTest, PreallocatedFileIsJudgedByWhatItOccupies)
 {
-    writeSparseFile(home() / "allocated", 10);
+    writeFile(home() / "allocated", std::string_view());
     const int descriptor = open((home() / "allocated").c_str(), O_WRONLY | O_CLOEXEC);
-    const bool isAllocated = fallocate(descriptor, FALLOC_FL_KEEP_SIZE, 0, mebibyte) == 0;
+    const bool isAllocated = reserveSpace(descriptor, mebibyte) && ftruncate(descriptor, 10) == 0;
     close(descriptor);
     if (!isAllocated)
         GTEST_SKIP() << "this file system cannot allocate beyond the end of a file";

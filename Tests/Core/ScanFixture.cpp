@@ -3,6 +3,8 @@
 
 #include "Tests/Core/ScanFixture.h"
 
+#include "Tests/Support/ReserveSpace.h"
+
 #include <algorithm>
 #include <system_error>
 
@@ -52,7 +54,7 @@ bool writeAllocatedFile(const std::filesystem::path& path, std::int64_t size)
 {
     writeFile(path, std::string_view());
     const int descriptor = open(path.c_str(), O_WRONLY | O_CLOEXEC);
-    const bool allocated = descriptor >= 0 && posix_fallocate(descriptor, 0, size) == 0;
+    const bool allocated = descriptor >= 0 && reserveSpace(descriptor, size) && ftruncate(descriptor, size) == 0;
     close(descriptor);
     return allocated && allocatedBytes(path) == size;
 }

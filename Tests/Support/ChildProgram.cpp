@@ -10,6 +10,9 @@
 #include <system_error>
 #include <unistd.h>
 
+// POSIX leaves its declaration to the program, and macOS has none.
+extern char** environ;
+
 namespace Korvane {
 
 ChildProgram::ChildProgram(const std::vector<std::string>& arguments)

@@ -3,6 +3,7 @@
 
 #include "Tests/Platform/Walking/PlainWalk.h"
 
+#include "Platform/FileStatus.h"
 #include "Platform/PackageExtensions.h"
 
 #include <algorithm>
@@ -92,7 +93,7 @@ private:
             || (m_options.values == PrefetchedValues::FileValues && !S_ISDIR(status.st_mode))) {
             entry.allocated = std::int64_t{ status.st_blocks } * 512;
             entry.size = status.st_size;
-            entry.modified = status.st_mtim.tv_sec * 1'000'000'000 + status.st_mtim.tv_nsec;
+            entry.modified = modificationDate(status).time_since_epoch().count();
         }
         return entry;
     }

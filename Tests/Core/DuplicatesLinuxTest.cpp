@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Tests/Core/DuplicatesFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/inotify.h>
+#include <unistd.h>
+
+namespace Korvane {
+
+namespace {
+
+/// What only this kernel tells about how duplicates are looked for.
+class DuplicatesLinuxTest : public DuplicatesFixture { };
+
+} // namespace
+
+TEST_F(DuplicatesLinuxTest, OnlyFilesThatShareTheirSizeAreOpened)
+{
+    make("alone", std::string(300, 'x'));
+    make("a", small);
+    make("b", small);
+    const int watcher = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    const int alone = inotify_add_watch(watcher, (home() / "alone").c_str(), IN_OPEN);
+    const int shared = inotify_add_watch(watcher, (home() / "a").c_str(), IN_OPEN);
+    EXPECT_EQ(scanSmall().size(), 2U);
+    alignas(inotify_event) char buffer[4096];
+    const auto size = read(watcher, buffer, sizeof buffer);
+    close(watcher);
+    ASSERT_EQ(size, static_cast<ssize_t>(sizeof(inotify_event)));
+    EXPECT_EQ(reinterpret_cast<const inotify_event*>(buffer)->wd, shared);
+    EXPECT_NE(shared, alone);
+}
+
+} // namespace Korvane
