@@ -14,6 +14,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
 endif()
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     target_compile_definitions(KorvaneOptions INTERFACE _FILE_OFFSET_BITS=64)
+elseif(APPLE)
+    # Homebrew's Qt is newer than the oldest that this builds with, and calls some of that one's functions deprecated.
+    target_compile_definitions(KorvaneOptions INTERFACE QT_WARN_DEPRECATED_UP_TO=0x060400)
 endif()
 
 if(KORVANE_SANITIZE)
