@@ -16,10 +16,13 @@ namespace {
 using Expansion = JunkLocation::Expansion;
 using Provider = JunkLocation::Provider;
 
+/// Whether all users share a folder, or the one that a link in its place leads to.
+bool isShared(const std::filesystem::path& folder) { return attributesOfItem(folder / ".").isSharedSticky; }
+
 /// A temporary directory that all users share is not this user's to remove: only what they left in it is.
 Expansion expansionOfTemporaryDirectory(const std::filesystem::path& folder)
 {
-    return attributesOfItem(folder).isSharedSticky ? Expansion::EachUnusedChild : Expansion::WholeFolder;
+    return isShared(folder) ? Expansion::EachUnusedChild : Expansion::WholeFolder;
 }
 
 std::vector<JunkLocation> fixedLocations(const FileManager& files)
@@ -62,7 +65,7 @@ std::vector<JunkLocation> junkLocations(const Host& host)
     const auto addOwn = [&](const std::filesystem::path& url, std::string_view category, Expansion expansion) {
         // A place that lies in one that is expanded is left out there, as a child.
         const bool isTaken = expansion == Expansion::EachChild ? taken.isOrLiesInPlace(url) : taken.overlaps(url);
-        if (isTaken || home.isOrContainsPlace(url) || attributesOfItem(url).isSharedSticky)
+        if (isTaken || home.isOrContainsPlace(url) || isShared(url))
             return;
         taken.add(url);
         locations.push_back({ url, category, expansion, Provider::Host });

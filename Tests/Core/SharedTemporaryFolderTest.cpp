@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "Core/Cleaning/Cleaner.h"
 #include "Tests/Core/HostPlacesFixture.h"
 #include "Tests/Support/OrdinaryUser.h"
 #include "Tests/Support/Sentinel.h"
@@ -100,6 +101,21 @@ TEST_F(SharedTemporaryFolderTest, OldChildrenOfASharedTemporaryDirectoryAreItems
         EXPECT_FALSE(item->selectableByDefault);
         EXPECT_EQ(item->displayName, url.filename());
     }
+}
+
+TEST_F(SharedTemporaryFolderTest, LinkToASharedTemporaryDirectoryIsTakenForOne)
+{
+    shareTemporaryDirectory();
+    makeOldFile("old");
+    writeFile(temporary() / "fresh", std::size_t{ 5000 });
+    std::filesystem::create_directory_symlink(temporary(), folder() / "link");
+    auto environment = host().environment;
+    environment.temporaryDirectory = folder() / "link";
+    useEnvironment(environment);
+    EXPECT_EQ(urls(scanJunk()), std::vector{ folder() / "link/old" });
+    EXPECT_EQ(Cleaner::clean(scanJunk(), false, *host().files).cleanedCount, 1);
+    EXPECT_FALSE(std::filesystem::exists(temporary() / "old"));
+    EXPECT_TRUE(std::filesystem::exists(temporary() / "fresh"));
 }
 
 TEST_F(SharedTemporaryFolderTest, HiddenChildrenOfASharedTemporaryDirectoryAreNotListed)
