@@ -8,9 +8,21 @@
 #include <system_error>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 namespace Korvane {
+
+namespace {
+
+/// Waits until a standard output that does not wait by itself takes more, or a signal comes.
+void waitUntilWritable()
+{
+    pollfd output{ STDOUT_FILENO, POLLOUT, 0 };
+    (void)poll(&output, 1, -1);
+}
+
+} // namespace
 
 void StandardStreams::secure()
 {
@@ -24,15 +36,20 @@ void StandardStreams::secure()
 
 void StandardStreams::write(std::string_view text, const Cancellation& cancellation)
 {
+    // What was done before a cancel is still to be told: then only a further signal ends the wait for a reader.
+    const bool wasCancelled = cancellation.isCancelled();
     while (!text.empty()) {
         const auto count = ::write(STDOUT_FILENO, text.data(), text.size());
-        if (count >= 0) {
+        if (count > 0)
             text.remove_prefix(static_cast<std::size_t>(count));
-            continue;
-        }
-        if (errno != EINTR)
-            throw std::system_error(errno, std::generic_category(), "standard output");
-        cancellation.throwIfCancelled();
+        const int error = count < 0 ? errno : 0;
+        if (error == EAGAIN)
+            waitUntilWritable();
+        else if (error != 0 && error != EINTR)
+            throw std::system_error(error, std::generic_category(), "standard output");
+        // A signal in mid-write shows as a short count, one before it as an error.
+        if (!text.empty() && (!wasCancelled || error == EINTR))
+            cancellation.throwIfCancelled();
     }
 }
 
