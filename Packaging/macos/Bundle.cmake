@@ -25,14 +25,14 @@ set_source_files_properties(${icns} TARGET_DIRECTORY korvane
     PROPERTIES GENERATED ON MACOSX_PACKAGE_LOCATION Resources)
 set_target_properties(korvane PROPERTIES
     OUTPUT_NAME Korvane
-    MACOSX_BUNDLE ON
     MACOSX_BUNDLE_INFO_PLIST ${CMAKE_CURRENT_SOURCE_DIR}/macos/Info.plist.in)
 
 install(TARGETS korvane BUNDLE DESTINATION .)
+# Qt looks for imports where its executable lies, and ours has no QML of its own: the tool is shown the folder that has.
+# Needs Qt 6.7.
 qt_generate_deploy_script(TARGET korvane OUTPUT_SCRIPT deploy CONTENT "
-    qt_deploy_qml_imports(TARGET korvane PLUGINS_FOUND plugins)
     qt_deploy_runtime_dependencies(EXECUTABLE Korvane.app
         ADDITIONAL_EXECUTABLES Korvane.app/Contents/MacOS/korvane-cli
-        ADDITIONAL_MODULES \${plugins} GENERATE_QT_CONF)
+        DEPLOY_TOOL_OPTIONS \"-qmldir=${CMAKE_SOURCE_DIR}/UI\")
 ")
 install(SCRIPT ${deploy})
