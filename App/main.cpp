@@ -24,6 +24,7 @@
 #include "Platform/Environment.h"
 #include "Platform/Host.h"
 #include "UI/Appearance.h"
+#include "UI/Background.h"
 
 #include <QApplication>
 #include <QQuickWindow>
@@ -40,6 +41,13 @@ int main(int argc, char* argv[])
     const Korvane::TerminationSignals terminationSignals;
 
     const Korvane::Host host = Korvane::makeHost(Korvane::Environment::current());
-    Korvane::KorvaneApp korvane(host);
-    return korvane.start() ? QApplication::exec() : EXIT_FAILURE;
+    int status = EXIT_FAILURE;
+    {
+        Korvane::KorvaneApp korvane(host);
+        if (korvane.start())
+            status = QApplication::exec();
+    }
+    // A cleaning that was begun is finished and recorded, although its window is gone.
+    Korvane::finishBackgroundWork();
+    return status;
 }

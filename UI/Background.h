@@ -18,8 +18,7 @@ namespace Korvane {
 /// Runs `work()` on the shared thread pool and hands its value to `done` on the main thread.
 ///
 /// Main thread. `done` is called at most once, and not at all when `receiver` is gone by then. `work` must not throw:
-/// it turns what went wrong into a value. The program does not end before `work` has (the pool is waited for when the
-/// application object goes), so that nothing is ever killed half done.
+/// it turns what went wrong into a value. See finishBackgroundWork for the end of the program.
 template <typename Work, typename Done> void runInBackground(QObject* receiver, Work work, Done done)
 {
     // The receiver itself cannot be the continuation's context: on Qt 6.4 a context that is destroyed before the work
@@ -36,6 +35,14 @@ template <typename Work, typename Done> void runInBackground(QObject* receiver, 
 template <typename Value> void releaseInBackground(std::shared_ptr<Value> value)
 {
     QThreadPool::globalInstance()->start([value = std::move(value)] {});
+}
+
+/// Waits until all background work has ended, and delivers what it brought. For the end of the program alone, when no
+/// window is left: what was being removed is removed, and recorded.
+inline void finishBackgroundWork()
+{
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::sendPostedEvents();
 }
 
 } // namespace Korvane

@@ -1,69 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "App/KorvaneApp.h"
 #include "Core/Scanning/FormattedBytes.h"
-#include "Tests/Support/Sentinel.h"
-#include "Tests/Support/TestHost.h"
-#include "Tests/UI/Support/QmlWarnings.h"
-#include "Tests/UI/Support/Screen.h"
+#include "Tests/UI/Scan/ScanScreenFixture.h"
 #include "UI/PreferenceKeys.h"
 
-#include <QAccessible>
-#include <QApplication>
 #include <QClipboard>
-#include <QMimeData>
+#include <QGuiApplication>
 #include <QTest>
-#include <QThreadPool>
-
-#include <filesystem>
-#include <memory>
 
 using namespace Korvane;
 namespace fs = std::filesystem;
 
-namespace {
-
-QString utf8(const char* text) { return QString::fromUtf8(text); }
-
-/// The check box of a found item, as tall as its row; null when it cannot be seen.
-QQuickItem* rowIn(QQuickItem* item, const QString& name)
-{
-    if (!item->isVisible())
-        return nullptr;
-    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(item);
-    if (interface && item->inherits("QQuickCheckDelegate") && interface->text(QAccessible::Name) == name)
-        return item;
-    for (QQuickItem* child : item->childItems()) {
-        if (QQuickItem* found = rowIn(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
-/// Presses an item once it has come to rest.
-void clickAtRest(QQuickItem* item)
-{
-    QPointF before;
-    do {
-        before = item->mapToScene(QPointF());
-        QTest::qWait(50);
-    } while (item->mapToScene(QPointF()) != before);
-    click(item);
-}
-
-enum class Tick { None, Off, On };
-
-} // namespace
-
-/// The real window on a real home, from the first press to the Trash. Every warning fails the test that caused it.
-class ScanScreenTest : public QObject {
+/// From the first press to the Trash.
+class ScanScreenTest : public ScanScreenFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void scansTogglesCleansAndFindsItInTheTrash();
     void doesEverythingFromTheKeyboard();
     void escapeLeavesTheConfirmationWithoutCleaning();
@@ -73,103 +26,7 @@ private Q_SLOTS:
     void theRowsMenuCopiesThePathAndShowsTheItem();
     void smartScanOpensTheScreenAndScans();
     void goingElsewhereAndComingBackBeginsAfresh();
-
-private:
-    QQuickWindow* window() const { return m_app->mainWindow(); }
-    QQuickItem* named(const char* name) const { return control(window(), utf8(name)); }
-    QQuickItem* row(const char* name) const { return rowIn(window()->contentItem(), utf8(name)); }
-    Tick tick(const char* name) const;
-    bool shows(const QString& text) const { return visibleTexts(window()).contains(text); }
-    fs::path home() const { return m_test->host.environment.home; }
-    fs::path trash() const { return m_test->host.environment.dataHome() / "Trash"; }
-    void press(const char* name) const;
-    void pressRow(const char* name) const;
-    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
-    void tabTo(const char* name) const;
-    void makeCaches() const;
-    void scan() const;
-
-    std::unique_ptr<QmlWarnings> m_warnings;
-    std::unique_ptr<TemporaryFolder> m_folder;
-    std::unique_ptr<TestHost> m_test;
-    std::unique_ptr<Sentinel> m_sentinel;
-    std::unique_ptr<KorvaneApp> m_app;
 };
-
-void ScanScreenTest::init()
-{
-    m_warnings = std::make_unique<QmlWarnings>();
-    m_folder = std::make_unique<TemporaryFolder>();
-    m_test = std::make_unique<TestHost>(makeTestHost(*m_folder));
-    m_sentinel = std::make_unique<Sentinel>(home() / "Documents/letter.txt");
-    m_app = std::make_unique<KorvaneApp>(m_test->host);
-    QVERIFY(m_app->start());
-    QVERIFY(QTest::qWaitForWindowExposed(window()));
-    window()->requestActivate();
-    QVERIFY(QTest::qWaitForWindowActive(window()));
-}
-
-void ScanScreenTest::cleanup()
-{
-    m_app.reset();
-    QThreadPool::globalInstance()->waitForDone();
-    QCoreApplication::processEvents();
-    const QStringList warnings = m_warnings->texts();
-    m_warnings.reset();
-    QCOMPARE(warnings, QStringList());
-    QVERIFY2(m_sentinel->isUnchanged(), m_sentinel->difference().c_str());
-}
-
-void ScanScreenTest::press(const char* name) const
-{
-    QTRY_VERIFY2(named(name), name);
-    QTRY_VERIFY2(named(name)->isEnabled(), name);
-    clickAtRest(named(name));
-}
-
-Tick ScanScreenTest::tick(const char* name) const
-{
-    QQuickItem* item = row(name);
-    if (item == nullptr)
-        return Tick::None;
-    return QAccessible::queryAccessibleInterface(item)->state().checked ? Tick::On : Tick::Off;
-}
-
-void ScanScreenTest::pressRow(const char* name) const
-{
-    QTRY_VERIFY2(row(name), name);
-    clickAtRest(row(name));
-}
-
-void ScanScreenTest::key(Qt::Key key, Qt::KeyboardModifiers modifiers) const
-{
-    QTest::keyClick(window(), key, modifiers);
-}
-
-void ScanScreenTest::tabTo(const char* name) const
-{
-    for (int steps = 0; steps < 60; ++steps) {
-        if (accessibleName(window()->activeFocusItem()) == utf8(name))
-            return;
-        key(Qt::Key_Tab);
-    }
-    QFAIL(qPrintable(utf8("Tab does not lead to ") + utf8(name)));
-}
-
-void ScanScreenTest::makeCaches() const
-{
-    writeFile(home() / "Library/Caches/org.example.maps/tiles/1.png", std::size_t { 900'000 });
-    writeFile(home() / "Library/Caches/org.example.mail/index", std::size_t { 400'000 });
-    writeFile(home() / "Library/Caches/com.apple.thumbnails/db", std::size_t { 200'000 });
-    writeFile(home() / "Library/Logs/example.log", std::size_t { 100'000 });
-}
-
-void ScanScreenTest::scan() const
-{
-    press("System Junk");
-    press("Start Scan");
-    QTRY_VERIFY(named("Clean"));
-}
 
 void ScanScreenTest::scansTogglesCleansAndFindsItInTheTrash()
 {
@@ -312,7 +169,7 @@ void ScanScreenTest::theRowsMenuCopiesThePathAndShowsTheItem()
     QTRY_VERIFY(shows("Copy Path"));
     key(Qt::Key_Down);
     key(Qt::Key_Return);
-    QTRY_COMPARE(m_test->workspace->shownPaths(), std::vector<fs::path> { path });
+    QTRY_COMPARE(m_test->workspace->shownPaths(), std::vector<fs::path>{ path });
     QVERIFY(tick("org.example.mail") == Tick::On);
 }
 

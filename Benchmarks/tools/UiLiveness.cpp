@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// How long the main thread is held up while the real window scans a home: prints the longest and the total time
+/// between two returns to the event loop, by the clock on the wall and by the thread's own processor time.
+///
+///     bench-ui-liveness FOLDER    "home" in the folder is scanned; it is filled with 40,000 caches of 12 files if
+///     missing
+
+#include "App/KorvaneApp.h"
+#include "Platform/Host.h"
+
+#include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QQuickWindow>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+
+namespace fs = std::filesystem;
+using namespace Korvane;
+
+namespace {
+
+double threadMilliseconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+void makeHome(const fs::path& home)
+{
+    const fs::path caches = home / "Library/Caches";
+    if (fs::exists(caches))
+        return;
+    for (int cache = 0; cache < 40'000; ++cache) {
+        const fs::path folder = caches / ("org.example.cache" + std::to_string(cache));
+        fs::create_directories(folder);
+        for (int file = 0; file < 12; ++file)
+            std::ofstream(folder / std::to_string(file)) << file;
+    }
+}
+
+/// Watches how long each turn of the event loop takes.
+class Watch {
+public:
+    Watch()
+    {
+        auto* dispatcher = QAbstractEventDispatcher::instance();
+        QObject::connect(dispatcher, &QAbstractEventDispatcher::awake, dispatcher, [this] { begin(); });
+        QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, dispatcher, [this] { end(); });
+    }
+
+    void restart()
+    {
+        m_longest = m_longestOwn = 0;
+        begin();
+    }
+    void report(const char* what)
+    {
+        end();
+        std::printf(
+            "%-10s longest turn %7.1f ms by the clock, %7.1f ms of the thread's own\n", what, m_longest, m_longestOwn);
+    }
+
+private:
+    void begin()
+    {
+        m_wall.start();
+        m_own = threadMilliseconds();
+    }
+    void end()
+    {
+        if (!m_wall.isValid())
+            return;
+        m_longest = std::max(m_longest, static_cast<double>(m_wall.nsecsElapsed()) / 1e6);
+        m_longestOwn = std::max(m_longestOwn, threadMilliseconds() - m_own);
+    }
+
+    QElapsedTimer m_wall;
+    double m_own = 0;
+    double m_longest = 0;
+    double m_longestOwn = 0;
+};
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (argc != 2) {
+        std::fputs("usage: bench-ui-liveness FOLDER\n", stderr);
+        return 2;
+    }
+    const Environment environment = Environment::inFolder(fs::absolute(argv[1]));
+    makeHome(environment.home);
+    // With GLib the event loop does not tell when it has woken up.
+    qputenv("QT_NO_GLIB", "1");
+    QApplication application(argc, argv);
+    const Host host = makeHost(environment);
+    KorvaneApp korvane(host);
+    if (!korvane.start())
+        return 1;
+    Watch watch;
+    auto* content = korvane.mainWindow()->property("viewModel").value<ContentViewModel*>();
+    QTimer::singleShot(2000, &application, [&] {
+        korvane.state().requestScan(CleanerModule::systemJunk);
+        watch.restart();
+        QObject::connect(content->scan(), &ScanViewModel::phaseChanged, &application, [&] {
+            watch.report("scanning");
+            std::printf("%zu items\n", content->scan()->items().size());
+            watch.restart();
+            QTimer::singleShot(1000, &application, [&] {
+                watch.report("results");
+                watch.restart();
+                content->scan()->toggleSelectAll();
+                QTimer::singleShot(1000, &application, [&] {
+                    watch.report("ticking");
+                    QCoreApplication::quit();
+                });
+            });
+        });
+    });
+    return QApplication::exec();
+}

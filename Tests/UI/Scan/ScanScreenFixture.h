@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "App/KorvaneApp.h"
+#include "Tests/Support/Sentinel.h"
+#include "Tests/Support/TestHost.h"
+#include "Tests/UI/Support/QmlWarnings.h"
+#include "Tests/UI/Support/Screen.h"
+
+#include <QObject>
+#include <QQuickWindow>
+
+#include <filesystem>
+#include <memory>
+
+namespace Korvane {
+
+/// Whether a row is ticked; None when it is not to be seen.
+enum class Tick { None, Off, On };
+
+inline QString utf8(const char* text) { return QString::fromUtf8(text); }
+
+/// The real window on a real home of its own, with a sentinel in it. Every warning fails the test that caused it.
+class ScanScreenFixture : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+protected:
+    QQuickWindow* window() const { return m_app->mainWindow(); }
+    QQuickItem* named(const char* name) const { return control(window(), utf8(name)); }
+    QQuickItem* row(const char* name) const;
+    Tick tick(const char* name) const;
+    bool shows(const QString& text) const { return visibleTexts(window()).contains(text); }
+    std::filesystem::path home() const { return m_test->host.environment.home; }
+    std::filesystem::path trash() const { return m_test->host.environment.dataHome() / "Trash"; }
+
+    /// Each presses once the control has come to rest and is enabled.
+    void press(const char* name) const;
+    void pressRow(const char* name) const;
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+    /// Presses Tab until the control has the focus.
+    void tabTo(const char* name) const;
+
+    void makeCaches() const;
+    /// Opens System Junk and scans until something is found.
+    void scan() const;
+
+    std::unique_ptr<QmlWarnings> m_warnings;
+    std::unique_ptr<TemporaryFolder> m_folder;
+    std::unique_ptr<TestHost> m_test;
+    std::unique_ptr<Sentinel> m_sentinel;
+    std::unique_ptr<KorvaneApp> m_app;
+};
+
+} // namespace Korvane
