@@ -41,7 +41,8 @@ ListView {
 
     section.property: "category"
     section.labelPositioning: ViewSection.InlineLabels | ViewSection.CurrentLabelAtStart
-    section.delegate: Qt.createComponent(Qt.resolvedUrl("CategoryHeading.qml"))
+    // With a parent, because the list does not keep its heading's component from being collected as garbage.
+    section.delegate: Qt.createComponent(Qt.resolvedUrl("CategoryHeading.qml"), Component.PreferSynchronous, list)
 
     delegate: ResultRow {
         width: list.width

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void unfoldsWhatCouldNotBeRemovedAndWhy();
     void theRowsMenuCopiesThePathAndShowsTheItem();
     void smartScanOpensTheScreenAndScans();
+    void keepsItsHeadingsWhenScriptMemoryIsCollected();
     void goingElsewhereAndComingBackBeginsAfresh();
 };
 
@@ -179,6 +180,23 @@ void ScanScreenTest::smartScanOpensTheScreenAndScans()
     press("Smart Scan");
     QTRY_VERIFY(named("Clean"));
     QVERIFY(row("org.example.maps"));
+}
+
+void ScanScreenTest::keepsItsHeadingsWhenScriptMemoryIsCollected()
+{
+    for (int i = 0; i < 60; ++i)
+        writeFile(home() / "Library/Caches" / ("org.example." + std::to_string(i)) / "data", std::size_t{ 5'000 });
+    writeFile(home() / "Library/Logs/example.log", std::size_t{ 1'000 });
+    scan();
+    for (const Qt::Key there : { Qt::Key_End, Qt::Key_Home }) {
+        m_app->engine().collectGarbage();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        tabTo("Clean");
+        key(Qt::Key_Backtab, Qt::ShiftModifier);
+        key(there);
+        QTRY_VERIFY(shows(there == Qt::Key_End ? "Log Files" : "User Caches"));
+    }
+    QVERIFY(shows("User Caches"));
 }
 
 void ScanScreenTest::goingElsewhereAndComingBackBeginsAfresh()
