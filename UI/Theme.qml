@@ -59,6 +59,19 @@ QtObject {
     // Fills under white text, strong enough for it.
     readonly property color prominentFill: "#0a6fe8"
     readonly property color destructiveFill: "#d92d20"
+    /// Under the white symbol of a tile, where its gradient thins out.
+    function tileBase(accent: color): color {
+        return dark ? "#3a3a40" : Qt.darker(accent, 1.4);
+    }
+
+    // States of such fills, laid over them.
+    readonly property color filledHoverFill: "#1affffff"
+    readonly property color filledPressedFill: "#2e000000"
+
+    // A switch.
+    readonly property color switchOffFill: dark ? "#4dffffff" : "#8a8a90"
+    readonly property color knob: "#ffffff"
+    readonly property color pressedKnob: "#ececf0"
 
     /// From cyan to blue.
     readonly property var heroGradient: [cyan, blue]

@@ -90,7 +90,7 @@ T.Button {
         Rectangle {
             anchors.fill: parent
             radius: parent.radius
-            color: button.filled ? (button.down ? "#2e000000" : "#1affffff")
+            color: button.filled ? (button.down ? Theme.filledPressedFill : Theme.filledHoverFill)
                                  : (button.down ? Theme.pressedFill : Theme.hoverFill)
             opacity: button.down || (button.hovered && button.enabled) ? 1 : 0
 

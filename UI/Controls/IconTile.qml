@@ -26,7 +26,7 @@ Item {
     Rectangle {
         anchors.fill: fill
         radius: tile.radius
-        color: Theme.dark ? "#3a3a40" : Qt.darker(tile.accent, 1.4)
+        color: Theme.tileBase(tile.accent)
     }
     GradientFill {
         id: fill

@@ -26,7 +26,7 @@ T.Switch {
         width: 40
         height: 24
         radius: 12
-        color: control.checked ? Theme.prominentFill : Theme.dark ? "#4dffffff" : "#8a8a90"
+        color: control.checked ? Theme.prominentFill : Theme.switchOffFill
 
         Rectangle {
             x: 2 + control.visualPosition * 16
@@ -34,7 +34,7 @@ T.Switch {
             width: 20
             height: 20
             radius: 10
-            color: control.down ? "#ececf0" : "#ffffff"
+            color: control.down ? Theme.pressedKnob : Theme.knob
 
             Behavior on x {
                 enabled: !control.down
