@@ -30,6 +30,8 @@ private Q_SLOTS:
     void aRowOpensItsModuleAndTheDashboardRowLeadsBack();
     void aCardOpensItsModule();
     void modulesOfLaterVersionsSaySo();
+    void smartScanOpensSystemJunkAndIsTakenUp();
+    void aRunningScreenTakesARequestWithoutASecondScan();
     void everythingIsReachedByTab();
     void arrowsMoveInTheSidebar();
     void returnPressesWhatHasTheFocus();
@@ -126,6 +128,25 @@ void ContentViewTest::modulesOfLaterVersionsSaySo()
         press(name);
         QVERIFY(visibleTexts(window()).contains(QStringLiteral("This module is not part of this version yet.")));
     }
+}
+
+void ContentViewTest::smartScanOpensSystemJunkAndIsTakenUp()
+{
+    press(QStringLiteral("Smart Scan"));
+    QVERIFY(m_app->state().selectedModule() == CleanerModule::systemJunk);
+    QTRY_VERIFY(!m_app->state().pendingScan());
+    // The home is empty, and so the scan that was started ends with nothing found.
+    QTRY_VERIFY(visibleTexts(window()).contains(QStringLiteral("All Clean!")));
+}
+
+void ContentViewTest::aRunningScreenTakesARequestWithoutASecondScan()
+{
+    writeFile(*m_folder / "home/Library/Logs/app.log", std::size_t{ 100'000 });
+    press(QStringLiteral("Smart Scan"));
+    QTRY_VERIFY(control(window(), QStringLiteral("Rescan")));
+    m_app->state().requestScan(CleanerModule::systemJunk);
+    QVERIFY(!m_app->state().pendingScan());
+    QVERIFY(control(window(), QStringLiteral("Rescan")));
 }
 
 void ContentViewTest::everythingIsReachedByTab()
@@ -234,6 +255,8 @@ void ContentViewTest::looksRightInTheDarkAndUnderReducedMotion()
     const QColor light = window()->color();
     appearance->setDark(true);
     QVERIFY(window()->color().lightness() < light.lightness() / 2);
+    press(QStringLiteral("System Junk"));
+    QVERIFY(visibleTexts(window()).contains(QStringLiteral("Start Scan")));
 }
 
 QTEST_MAIN(ContentViewTest)
