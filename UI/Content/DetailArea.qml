@@ -4,6 +4,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Korvane.UI
 
 /// The banner, and below it the screen of what is selected in the sidebar.
@@ -20,11 +21,20 @@ Item {
         viewModel: detail.viewModel.access
     }
     FocusScope {
+        id: area
+
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: banner.bottom
         anchors.bottom: parent.bottom
         clip: true
+
+        /// Takes the keyboard to a screen that was opened by what it is on.
+        function lead(screen: Item): void {
+            const former = area.T.ApplicationWindow.activeFocusControl as T.Control;
+            if (area.activeFocus)
+                screen.forceActiveFocus(former !== null && former.visualFocus ? Qt.TabFocusReason : Qt.OtherFocusReason);
+        }
 
         DashboardView {
             anchors.fill: parent
@@ -41,11 +51,14 @@ Item {
             model: detail.viewModel.scan === null ? [] : [detail.viewModel.scan]
 
             ScanView {
+                id: scan
+
                 required property ScanViewModel modelData
 
                 anchors.fill: parent
                 focus: true
                 viewModel: modelData
+                Component.onCompleted: area.lead(scan)
             }
         }
     }

@@ -75,7 +75,7 @@ ListView {
             }
         }
         ToolTipArea {
-            text: row.path
+            text: row.path + "\n" + row.message
         }
     }
 }

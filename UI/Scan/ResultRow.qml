@@ -17,16 +17,21 @@ T.CheckDelegate {
     required property string folder
     required property string path
     required property string size
+    required property string category
     required property bool ticked
     required property bool shielded
 
     /// Whether the row that has the focus is to show it although it did not get it by Tab.
     property bool showsFocus: false
+    /// Whether the Space bar is down for the whole category, so that letting go of it must not tick the row.
+    property bool togglesCategory: false
 
     readonly property string shieldHelp: qsTr("Not selected by default — may be in use or needed by the system.")
 
     /// The menu is wanted, at this place of the row.
     signal menuRequested(real x, real y)
+    /// The whole category of the row is to be ticked, or unticked.
+    signal categoryToggled
 
     function press(): void {
         row.toggle();
@@ -55,7 +60,17 @@ T.CheckDelegate {
         if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier) {
             row.menuRequested(row.leftPadding, row.height);
             event.accepted = true;
+        } else if (event.key === Qt.Key_Space && event.modifiers === Qt.ShiftModifier) {
+            if (!event.isAutoRepeat)
+                row.categoryToggled();
+            row.togglesCategory = true;
+            event.accepted = true;
         }
+    }
+    Keys.onReleased: event => {
+        event.accepted = event.key === Qt.Key_Space && row.togglesCategory;
+        if (event.accepted && !event.isAutoRepeat)
+            row.togglesCategory = false;
     }
 
     // On an item of its own: a handler makes the item that it is on take every button, and the right one would tick.
@@ -77,12 +92,16 @@ T.CheckDelegate {
     }
 
     contentItem: ResultRowContent {
+        id: content
+
         name: row.name
         folder: row.folder
-        path: row.path
         size: row.size
         shielded: row.shielded
-        shieldHelp: row.shieldHelp
+    }
+
+    ToolTipArea {
+        text: content.shieldHovered ? row.shieldHelp : row.path
     }
 
     background: Item {

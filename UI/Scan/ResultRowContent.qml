@@ -12,11 +12,11 @@ Item {
 
     required property string name
     required property string folder
-    required property string path
     required property string size
     required property bool shielded
-    required property string shieldHelp
 
+    /// Whether the pointer rests on the shield.
+    readonly property bool shieldHovered: shieldHover.hovered
     readonly property real nameColumn: content.width * (content.width > 900 ? 0.5 : 0.46)
 
     Label {
@@ -39,8 +39,8 @@ Item {
         size: 16
         color: Theme.warningLabel
 
-        ToolTipArea {
-            text: content.shieldHelp
+        HoverHandler {
+            id: shieldHover
         }
     }
     Label {
@@ -52,10 +52,6 @@ Item {
         elide: Text.ElideMiddle
         text: content.folder
         Accessible.ignored: true
-
-        ToolTipArea {
-            text: content.path
-        }
     }
     Label {
         id: sizeText
@@ -68,9 +64,5 @@ Item {
         color: Theme.secondaryLabel
         text: content.size
         Accessible.ignored: true
-    }
-    ToolTipArea {
-        anchors.fill: nameText
-        text: content.path
     }
 }

@@ -21,6 +21,10 @@ ListView {
     function moveTo(row: int) {
         list.currentIndex = Math.max(0, Math.min(list.count - 1, row));
     }
+    function toggleCategory(title: string) {
+        const category = list.viewModel.rows.category(title);
+        list.viewModel.rows.setCategoryTicked(title, category.tickedCount < category.itemCount);
+    }
     function openMenu(itemId: string, place: Item, x: real, y: real) {
         menu.itemId = itemId;
         menu.parent = place;
@@ -48,6 +52,7 @@ ListView {
         width: list.width
         showsFocus: list.byKeyboard
         onToggled: list.viewModel.rows.setTicked(itemId, checked)
+        onCategoryToggled: list.toggleCategory(category)
         onPressed: {
             list.byKeyboard = false;
             list.currentIndex = index;

@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "Core/Scanning/FormattedBytes.h"
+#include "Tests/UI/Scan/HeldScan.h"
 #include "Tests/UI/Scan/ScanScreenFixture.h"
+#include "UI/Background.h"
 #include "UI/PreferenceKeys.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QTest>
+#include <QThread>
 
 using namespace Korvane;
 namespace fs = std::filesystem;
@@ -27,6 +31,12 @@ private Q_SLOTS:
     void smartScanOpensTheScreenAndScans();
     void keepsItsHeadingsWhenScriptMemoryIsCollected();
     void goingElsewhereAndComingBackBeginsAfresh();
+    void showsARunningScanAndCancelsIt();
+    void aScanAskedForElsewhereTakesTheQuestionAway();
+    void quittingWhileCleaningFinishesAndRecordsIt();
+
+private:
+    ScanViewModel* screen() const { return window()->property("viewModel").value<ContentViewModel*>()->scan(); }
 };
 
 void ScanScreenTest::scansTogglesCleansAndFindsItInTheTrash()
@@ -208,6 +218,61 @@ void ScanScreenTest::goingElsewhereAndComingBackBeginsAfresh()
     press("System Junk");
     QTRY_VERIFY(named("Start Scan"));
     QVERIFY(!named("Clean"));
+}
+
+void ScanScreenTest::showsARunningScanAndCancelsIt()
+{
+    press("System Junk");
+    QTRY_VERIFY(named("Start Scan"));
+    QSemaphore ended;
+    screen()->start(std::make_shared<ScriptedScanner>(
+        [&ended](const ProgressHandler& progress, const Cancellation& cancellation) -> std::vector<ScanItem> {
+            progress({ "/somewhere/deep", 1234, 5'000'000 });
+            while (!cancellation.isCancelled())
+                QThread::msleep(1);
+            ended.release();
+            throw CancellationError();
+        }));
+    QTRY_VERIFY(shows(QLocale().toString(1234) + utf8(" found")));
+    QVERIFY(shows(utf8("Scanning…")) && shows("5 MB") && shows("/somewhere/deep"));
+    press("Cancel");
+    QTRY_VERIFY(named("Start Scan"));
+    QVERIFY(ended.tryAcquire(1, 10'000));
+    QVERIFY(!shows(utf8("Scanning…")));
+}
+
+void ScanScreenTest::aScanAskedForElsewhereTakesTheQuestionAway()
+{
+    makeCaches();
+    press("Duplicates");
+    QTRY_VERIFY(named("Start Scan"));
+    screen()->start(ScriptedScanner::finding({ { home() / "copy", std::nullopt, "Set 1", 1, true } }));
+    press("Clean");
+    QTRY_VERIFY(named("Move to Trash"));
+    m_app->scanSystemJunk();
+    QTRY_VERIFY(row("org.example.maps"));
+    QTRY_VERIFY(!named("Move to Trash"));
+    pressRow("org.example.maps");
+    QTRY_VERIFY(tick("org.example.maps") == Tick::Off);
+    press("Clean");
+    press("Move to Trash");
+    QTRY_VERIFY(named("Scan Again"));
+    QVERIFY(shows("2 items moved to Trash or removed"));
+    QVERIFY(visibleTexts(window()).filter("could not be removed").isEmpty());
+}
+
+void ScanScreenTest::quittingWhileCleaningFinishesAndRecordsIt()
+{
+    makeCaches();
+    scan();
+    const std::int64_t bytes = screen()->selectedBytes();
+    screen()->clean(true);
+    m_app.reset();
+    QCOMPARE(m_test->host.defaults->integerForKey(PreferenceKeys::lastCleanedBytes, 0), 0);
+    finishBackgroundWork();
+    QCOMPARE(m_test->host.defaults->integerForKey(PreferenceKeys::lastCleanedBytes, 0), bytes);
+    QVERIFY(m_test->host.defaults->doubleForKey(PreferenceKeys::lastCleanedDate, 0.0) > 0.0);
+    QVERIFY(fs::exists(trash() / "files/org.example.maps/tiles/1.png"));
 }
 
 QTEST_MAIN(ScanScreenTest)

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Tests/UI/Scan/ScanScreenFixture.h"
+
+#include <QTest>
+
+using namespace Korvane;
+
+/// What rows and the keyboard can do.
+class ScanRowsTest : public ScanScreenFixture {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void spaceWithShiftTicksTheWholeCategory();
+    void anywhereOnARowThePointerShowsTheWholePath();
+    void theKeyboardFollowsToTheScreenThatItOpened();
+};
+
+void ScanRowsTest::spaceWithShiftTicksTheWholeCategory()
+{
+    makeCaches();
+    scan();
+    tabTo("org.example.maps");
+    key(Qt::Key_Space, Qt::ShiftModifier);
+    QTRY_VERIFY(tick("com.apple.thumbnails") == Tick::On);
+    QVERIFY(tick("org.example.maps") == Tick::On && tick("org.example.mail") == Tick::On);
+    key(Qt::Key_Space, Qt::ShiftModifier);
+    QTRY_VERIFY(tick("com.apple.thumbnails") == Tick::Off);
+    QVERIFY(tick("org.example.maps") == Tick::Off && tick("org.example.mail") == Tick::Off);
+    QVERIFY(tick("example.log") == Tick::On);
+    key(Qt::Key_Space);
+    QTRY_VERIFY(tick("org.example.maps") == Tick::On);
+    QVERIFY(tick("org.example.mail") == Tick::Off);
+}
+
+void ScanRowsTest::anywhereOnARowThePointerShowsTheWholePath()
+{
+    makeCaches();
+    scan();
+    const QString path = QString::fromStdString((home() / "Library/Caches/org.example.mail").string());
+    for (const double place : { 0.02, 0.1, 0.45, 0.98 }) {
+        QQuickItem* item = row("org.example.mail");
+        QVERIFY(item && !shows(path));
+        const QPointF point(item->width() * place, item->height() / 2);
+        QTest::mouseMove(window(), item->mapToScene(point).toPoint());
+        QTRY_VERIFY2(shows(path), qPrintable(QString::number(place)));
+        QTest::mouseMove(window(), QPoint(2, 2));
+        QTRY_VERIFY(!shows(path));
+    }
+}
+
+void ScanRowsTest::theKeyboardFollowsToTheScreenThatItOpened()
+{
+    makeCaches();
+    tabTo("Smart Scan");
+    key(Qt::Key_Return);
+    QTRY_VERIFY(named("Clean"));
+    QTRY_COMPARE(accessibleName(window()->activeFocusItem()), utf8("org.example.maps"));
+    press("Dashboard");
+    QTRY_VERIFY(named("Smart Scan"));
+    controls(window(), utf8("Duplicates")).last()->forceActiveFocus(Qt::TabFocusReason);
+    key(Qt::Key_Return);
+    QTRY_COMPARE(accessibleName(window()->activeFocusItem()), utf8("Start Scan"));
+    QVERIFY(window()->activeFocusItem()->property("visualFocus").toBool());
+}
+
+QTEST_MAIN(ScanRowsTest)
+#include "ScanRowsTest.moc"
