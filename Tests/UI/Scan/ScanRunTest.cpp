@@ -129,7 +129,8 @@ void ScanRunTest::aNewScanForgetsItemsSelectionAndProgress()
         return someItems();
     }));
     QTRY_COMPARE(m_model->phase(), Phase::Results);
-    QCOMPARE(m_model->progress(), (ScanProgress{ "/nowhere/big", 1, 3'000'000 }));
+    // A scan that ends at once may be over before its report is on the screen.
+    QTRY_COMPARE(m_model->progress(), (ScanProgress{ "/nowhere/big", 1, 3'000'000 }));
     QCOMPARE(m_model->progressTexts().foundText, "1 found");
     QCOMPARE(m_model->progressTexts().foundBytesText, "3 MB");
     QCOMPARE(m_model->progressTexts().currentPath, "/nowhere/big");
