@@ -9,12 +9,11 @@ namespace {
 /// What only this host has: names of any bytes, and places that are known to be mounted or shared.
 using RemovalLinuxTest = FileManagerFixture;
 
-TEST_F(RemovalLinuxTest, TheSystemsMountPointsAndSharedFoldersAreRefused)
+// Of the system's own places only the one in which nothing can be removed anyway, should the refusal ever break.
+TEST_F(RemovalLinuxTest, TheSystemsMountPointsAreRefused)
 {
-    for (const char* path : { "/proc", "/sys", "/tmp" }) {
-        EXPECT_NE(removing(path).find("never removed"), std::string::npos) << path;
-        EXPECT_NE(trashing(path).find("never removed"), std::string::npos) << path;
-    }
+    EXPECT_NE(removing("/proc").find("never removed"), std::string::npos);
+    EXPECT_NE(trashing("/proc").find("never removed"), std::string::npos);
 }
 
 TEST_F(RemovalLinuxTest, NamesOfAnyBytesAndOf255Bytes)
