@@ -4,18 +4,16 @@
 #include "Platform/Walking/DirectoryReader.h"
 
 #include "Platform/Walking/LongPath.h"
+#include "Platform/Walking/PosixEntries.h"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <limits>
 
 #include <dirent.h>
 #include <fcntl.h>
 #include <linux/openat2.h>
 #include <pthread.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -38,19 +36,6 @@ constexpr std::size_t bufferSize = 32768;
 /// Longer than any record: the header, a name of 255 bytes and what rounds it up.
 constexpr std::size_t longestRecord = 288;
 
-constexpr int openFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK;
-
-std::error_code lastError() { return { errno, std::generic_category() }; }
-
-EntryType typeOfMode(unsigned mode)
-{
-    if (S_ISREG(mode))
-        return EntryType::RegularFile;
-    if (S_ISDIR(mode))
-        return EntryType::Directory;
-    return S_ISLNK(mode) ? EntryType::SymbolicLink : EntryType::Other;
-}
-
 EntryType typeOfListing(std::uint8_t type)
 {
     switch (type) {
@@ -65,16 +50,6 @@ EntryType typeOfListing(std::uint8_t type)
     default:
         return EntryType::Other;
     }
-}
-
-std::int64_t nanosecondsOf(const statx_timestamp& time)
-{
-    constexpr std::int64_t perSecond = 1'000'000'000;
-    std::int64_t result = 0;
-    if (__builtin_mul_overflow(time.tv_sec, perSecond, &result)
-        || __builtin_add_overflow(result, std::int64_t{ time.tv_nsec }, &result))
-        return time.tv_sec < 0 ? std::numeric_limits<std::int64_t>::min() : std::numeric_limits<std::int64_t>::max();
-    return result;
 }
 
 bool isSelfOrParent(const char* name) { return name[0] == '.' && (!name[1] || (name[1] == '.' && !name[2])); }
@@ -142,10 +117,10 @@ void DirectoryReader::readValues(int folder, Wanted wanted, ListedEntry& entry)
         return;
     }
     if (entry.type == EntryType::Unknown)
-        entry.type = typeOfMode(status.stx_mode);
+        entry.type = entryTypeOfMode(status.stx_mode);
     entry.allocatedSize = static_cast<std::int64_t>(status.stx_blocks) * 512;
     entry.fileSize = static_cast<std::int64_t>(status.stx_size);
-    entry.modified = nanosecondsOf(status.stx_mtime);
+    entry.modified = nanosecondsSince1970(status.stx_mtime.tv_sec, status.stx_mtime.tv_nsec);
 }
 
 ListedEntry DirectoryReader::statusOfItem(const std::string& path)
@@ -163,23 +138,14 @@ ListedEntry DirectoryReader::statusOfItem(const std::string& path)
     return entry;
 }
 
-int DirectoryReader::openPath(const std::string& path, std::error_code& error)
-{
-    const LongPath folder(path);
-    const int descriptor = openat(folder.folder(), folder.relative(), openFlags);
-    if (descriptor < 0)
-        error = lastError();
-    return descriptor;
-}
-
 int DirectoryReader::openFolder(int parent, const char* relative, bool isSingle, std::error_code& error)
 {
     int descriptor = -1;
     if (isSingle) {
-        descriptor = openat(parent, relative, openFlags | O_NOFOLLOW);
+        descriptor = openat(parent, relative, folderOpenFlags() | O_NOFOLLOW);
     } else {
         open_how how{};
-        how.flags = openFlags;
+        how.flags = static_cast<std::uint64_t>(folderOpenFlags());
         how.resolve = RESOLVE_NO_SYMLINKS | RESOLVE_BENEATH;
         descriptor = static_cast<int>(syscall(SYS_openat2, parent, relative, &how, sizeof how));
     }
@@ -199,11 +165,11 @@ bool DirectoryReader::opensSeveralLevels() noexcept
 {
     static const bool isKnownToKernel = [] {
         open_how how{};
-        how.flags = openFlags;
+        how.flags = static_cast<std::uint64_t>(folderOpenFlags());
         how.resolve = RESOLVE_NO_SYMLINKS | RESOLVE_BENEATH;
         const int descriptor = static_cast<int>(syscall(SYS_openat2, AT_FDCWD, ".", &how, sizeof how));
         if (descriptor >= 0)
-            close(descriptor);
+            ::close(descriptor);
         return descriptor >= 0;
     }();
     return isKnownToKernel;
@@ -211,16 +177,6 @@ bool DirectoryReader::opensSeveralLevels() noexcept
 
 bool DirectoryReader::canResume() noexcept { return true; }
 void DirectoryReader::resume(int folder, std::int64_t position) { lseek(folder, position, SEEK_SET); }
-void DirectoryReader::close(int folder) noexcept { ::close(folder); }
-
-std::size_t DirectoryReader::descriptorsToKeep()
-{
-    constexpr rlim_t most = 96;
-    rlimit limit{};
-    if (getrlimit(RLIMIT_NOFILE, &limit) != 0)
-        return 8;
-    return static_cast<std::size_t>(std::min(limit.rlim_cur / 8, most));
-}
 
 /// A cold disk wants more readers than there are cores; on a warm one the surplus sleeps or costs nothing.
 std::size_t DirectoryReader::readerCount() noexcept { return 8; }

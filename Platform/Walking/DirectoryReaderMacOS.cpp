@@ -4,18 +4,17 @@
 #include "Platform/Walking/DirectoryReader.h"
 
 #include "Platform/Walking/LongPath.h"
+#include "Platform/Walking/PosixEntries.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
-#include <limits>
 
 #include <fcntl.h>
 #include <pthread.h>
 #include <sys/attr.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/vnode.h>
 #include <unistd.h>
@@ -28,10 +27,6 @@ constexpr std::size_t bufferSize = 32768;
 
 /// A part of so many records is taken for one of a long listing; the buffer holds about twice as many of usual length.
 constexpr int recordsOfALongPart = 128;
-
-constexpr int openFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK;
-
-std::error_code lastError() { return { errno, std::generic_category() }; }
 
 /// What is asked for; the values stand in each record in the order of the bits, as getattrlist(2) says.
 attrlist wantedAttributes()
@@ -58,24 +53,7 @@ EntryType typeOfObject(fsobj_type_t type)
     }
 }
 
-EntryType typeOfMode(mode_t mode)
-{
-    if (S_ISREG(mode))
-        return EntryType::RegularFile;
-    if (S_ISDIR(mode))
-        return EntryType::Directory;
-    return S_ISLNK(mode) ? EntryType::SymbolicLink : EntryType::Other;
-}
-
-std::int64_t nanosecondsOf(const timespec& time)
-{
-    constexpr std::int64_t perSecond = 1'000'000'000;
-    std::int64_t result = 0;
-    if (__builtin_mul_overflow(std::int64_t{ time.tv_sec }, perSecond, &result)
-        || __builtin_add_overflow(result, std::int64_t{ time.tv_nsec }, &result))
-        return time.tv_sec < 0 ? std::numeric_limits<std::int64_t>::min() : std::numeric_limits<std::int64_t>::max();
-    return result;
-}
+std::int64_t nanosecondsOf(const timespec& time) { return nanosecondsSince1970(time.tv_sec, time.tv_nsec); }
 
 /// Takes the values of a record one after the other; they are packed to four bytes.
 class RecordValues {
@@ -195,7 +173,7 @@ void DirectoryReader::readValues(int folder, Wanted wanted, ListedEntry& entry)
         entry.hasValues = false;
         return;
     }
-    entry.type = typeOfMode(status.st_mode);
+    entry.type = entryTypeOfMode(status.st_mode);
     entry.allocatedSize = std::int64_t{ status.st_blocks } * 512;
     entry.fileSize = status.st_size;
     entry.modified = nanosecondsOf(status.st_mtimespec);
@@ -210,25 +188,16 @@ ListedEntry DirectoryReader::statusOfItem(const std::string& path)
         && fstatat(item.folder(), item.relative(), &status, AT_SYMLINK_NOFOLLOW) == 0;
     if (!entry.hasValues)
         return entry;
-    entry.type = typeOfMode(status.st_mode);
+    entry.type = entryTypeOfMode(status.st_mode);
     entry.fileSize = status.st_size;
     entry.modified = nanosecondsOf(status.st_mtimespec);
     entry.allocatedSize = allocatedSizeOf(item, std::int64_t{ status.st_blocks } * 512);
     return entry;
 }
 
-int DirectoryReader::openPath(const std::string& path, std::error_code& error)
-{
-    const LongPath folder(path);
-    const int descriptor = openat(folder.folder(), folder.relative(), openFlags);
-    if (descriptor < 0)
-        error = lastError();
-    return descriptor;
-}
-
 int DirectoryReader::openFolder(int parent, const char* relative, bool isSingle, std::error_code& error)
 {
-    const int descriptor = openat(parent, relative, openFlags | (isSingle ? O_NOFOLLOW : O_NOFOLLOW_ANY));
+    const int descriptor = openat(parent, relative, folderOpenFlags() | (isSingle ? O_NOFOLLOW : O_NOFOLLOW_ANY));
     if (descriptor < 0)
         error = lastError();
     else
@@ -246,16 +215,6 @@ bool DirectoryReader::opensSeveralLevels() noexcept { return true; }
 /// getattrlistbulk has no position that outlives the descriptor.
 bool DirectoryReader::canResume() noexcept { return false; }
 void DirectoryReader::resume(int, std::int64_t) { }
-void DirectoryReader::close(int folder) noexcept { ::close(folder); }
-
-std::size_t DirectoryReader::descriptorsToKeep()
-{
-    constexpr rlim_t most = 96;
-    rlimit limit{};
-    if (getrlimit(RLIMIT_NOFILE, &limit) != 0)
-        return 8;
-    return static_cast<std::size_t>(std::min(limit.rlim_cur / 8, most));
-}
 
 /// The file system reads folders one at a time however many ask: more readers would only wait for each other.
 std::size_t DirectoryReader::readerCount() noexcept { return 4; }
