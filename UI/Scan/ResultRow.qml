@@ -92,8 +92,6 @@ T.CheckDelegate {
     }
 
     contentItem: ResultRowContent {
-        id: content
-
         name: row.name
         folder: row.folder
         size: row.size
@@ -101,7 +99,10 @@ T.CheckDelegate {
     }
 
     ToolTipArea {
-        text: content.shieldHovered ? row.shieldHelp : row.path
+        // By the property and not by an id, which would make the row lay out its content before it is needed.
+        readonly property ResultRowContent content: row.contentItem as ResultRowContent
+
+        text: content !== null && content.shieldHovered ? row.shieldHelp : row.path
     }
 
     background: Item {
