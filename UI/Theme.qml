@@ -47,6 +47,7 @@ QtObject {
                                             : (highContrast ? "#66000000" : "#1a000000")
     readonly property color controlBorder: dark ? (highContrast ? "#b3ffffff" : "#33ffffff")
                                                 : (highContrast ? "#b3000000" : "#2e000000")
+    readonly property color checkBorder: highContrast ? label : dark ? "#80ffffff" : "#73000000"
     readonly property color controlFill: dark ? "#1fffffff" : "#ffffff"
     readonly property color hoverFill: dark ? "#14ffffff" : "#0d000000"
     readonly property color pressedFill: dark ? "#24ffffff" : "#1a000000"

@@ -22,9 +22,8 @@ Item {
         spacing: Theme.spacing
         visible: overview.module !== null
 
-        IconTile {
+        ModuleHeroIcon {
             anchors.horizontalCenter: parent.horizontalCenter
-            size: 112
             symbol: overview.module ? overview.module.symbol : ""
             accent: overview.module ? Theme.accent(overview.module.accent) : Theme.blue
         }

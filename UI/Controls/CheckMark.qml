@@ -21,7 +21,7 @@ Rectangle {
     radius: 5
     color: box.on ? Theme.prominentFill : Theme.controlFill
     border.width: box.on ? 0 : 1
-    border.color: box.hovered ? Theme.secondaryLabel : Theme.tertiaryLabel
+    border.color: box.hovered ? Theme.secondaryLabel : Theme.checkBorder
 
     Rectangle {
         anchors.fill: parent

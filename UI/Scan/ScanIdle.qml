@@ -20,7 +20,8 @@ FocusScope {
 
         ModuleHeroIcon {
             anchors.horizontalCenter: parent.horizontalCenter
-            viewModel: view.viewModel
+            symbol: view.viewModel.module.symbol
+            accent: Theme.accent(view.viewModel.module.accent)
         }
         Item {
             width: 1

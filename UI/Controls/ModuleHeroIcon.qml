@@ -10,7 +10,8 @@ import Korvane.UI
 Item {
     id: hero
 
-    required property ScanViewModel viewModel
+    required property string symbol
+    required property color accent
 
     implicitWidth: tile.width
     implicitHeight: tile.height
@@ -23,13 +24,13 @@ Item {
         anchors.bottomMargin: -38
         radius: tile.radius
         blur: 28
-        color: Qt.alpha(Theme.accent(hero.viewModel.module.accent), Theme.dark ? 0.35 : 0.4)
+        color: Qt.alpha(hero.accent, Theme.dark ? 0.35 : 0.4)
     }
     IconTile {
         id: tile
 
         size: 112
-        symbol: hero.viewModel.module.symbol
-        accent: Theme.accent(hero.viewModel.module.accent)
+        symbol: hero.symbol
+        accent: hero.accent
     }
 }
