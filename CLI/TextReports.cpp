@@ -146,7 +146,7 @@ std::string modulesAsText()
     std::string text;
     for (const auto module : allCleanerModules) {
         text += padded(rawValue(module), nameWidth + 2) + padded(title(module), titleWidth + 2)
-            + std::string(subtitle(module)) + (isScannable(module) ? "" : " (in the application only)") + "\n";
+            + std::string(subtitle(module)) + (isScannable(module) ? "" : " (not for the terminal)") + "\n";
     }
     return text;
 }
