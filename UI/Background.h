@@ -17,18 +17,23 @@ namespace Korvane {
 
 /// Runs `work()` on the shared thread pool and hands its value to `done` on the main thread.
 ///
-/// Main thread. `done` is called at most once, and not at all when `receiver` is gone by then. `work` must not throw:
-/// it turns what went wrong into a value. See finishBackgroundWork for the end of the program.
+/// Main thread. `done` is called at most once, from the event loop and never before this function has returned, and not
+/// at all when `receiver` is gone by then. `work` must not throw: it turns what went wrong into a value. See
+/// finishBackgroundWork for the end of the program.
 template <typename Work, typename Done> void runInBackground(QObject* receiver, Work work, Done done)
 {
+    using Value = std::invoke_result_t<Work>;
     // The receiver itself cannot be the continuation's context: on Qt 6.4 a context that is destroyed before the work
     // ends is asserted on, and used, from the worker's thread. The application object outlives every worker.
-    QtConcurrent::run(std::move(work))
-        .then(QCoreApplication::instance(),
-            [guard = QPointer<QObject>(receiver), done = std::move(done)](std::invoke_result_t<Work> value) mutable {
-                if (guard)
-                    done(std::move(value));
-            });
+    auto deliver = [application = QCoreApplication::instance(), guard = QPointer<QObject>(receiver),
+                       done = std::move(done)](Value value) mutable {
+        auto arrive = [guard = std::move(guard), done = std::move(done), value = std::move(value)]() mutable {
+            if (guard)
+                done(std::move(value));
+        };
+        QMetaObject::invokeMethod(application, std::move(arrive), Qt::QueuedConnection);
+    };
+    QtConcurrent::run(std::move(work)).then(std::move(deliver));
 }
 
 /// Lets go of a large value away from the main thread; it is freed there if nobody else holds it.
