@@ -87,7 +87,7 @@ ExitStatus Program::runCommand(const CommandLine& line)
         return ExitStatus::Done;
     case Command::Scan: {
         const auto items = scan(line.module);
-        print(isJson ? findingsAsJson(line.module, items) : findingsAsText(items));
+        print(isJson ? findingsAsJson(line.module, items) : findingsAsText(items, sharedStorage(line.module, items)));
         return ExitStatus::Done;
     }
     case Command::Clean:
@@ -99,9 +99,12 @@ ExitStatus Program::runCommand(const CommandLine& line)
 ExitStatus Program::clean(const CommandLine& line)
 {
     const bool isJson = line.format == Format::Json;
-    const auto items = chosen(line);
-    if (line.confirmation == CommandLine::Confirmation::Missing) {
-        CleaningPlan plan{ line.module, line.selection, {} };
+    const bool isPlan = line.confirmation == CommandLine::Confirmation::Missing;
+    auto found = scan(line.module);
+    auto shared = isPlan && !isJson ? sharedStorage(line.module, found) : SharedStorageOfItems();
+    const auto items = chosen(line, std::move(found));
+    if (isPlan) {
+        CleaningPlan plan{ line.module, line.selection, {}, std::move(shared) };
         const bool moveToTrash = line.removal == CommandLine::Removal::MoveToTrash;
         for (const auto& item : items)
             plan.steps.push_back({ item, Cleaner::action(item.url, moveToTrash, *m_host.files) });
@@ -128,9 +131,13 @@ std::vector<ScanItem> Program::scan(CleanerModule module) const
     return items;
 }
 
-std::vector<ScanItem> Program::chosen(const CommandLine& line) const
+SharedStorageOfItems Program::sharedStorage(CleanerModule module, const std::vector<ScanItem>& items) const
 {
-    auto items = scan(line.module);
+    return scanner(module, *m_host.files)->sharedStorage(items, m_cancellation);
+}
+
+std::vector<ScanItem> Program::chosen(const CommandLine& line, std::vector<ScanItem> items) const
+{
     switch (line.selection) {
     case Selection::All:
         return items;

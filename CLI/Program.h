@@ -28,7 +28,8 @@ private:
     ExitStatus clean(const CommandLine& line);
 
     std::vector<ScanItem> scan(CleanerModule module) const;
-    std::vector<ScanItem> chosen(const CommandLine& line) const;
+    SharedStorageOfItems sharedStorage(CleanerModule module, const std::vector<ScanItem>& items) const;
+    std::vector<ScanItem> chosen(const CommandLine& line, std::vector<ScanItem> items) const;
     Cleaner::Result cleanEach(const std::vector<ScanItem>& items, CommandLine::Removal removal);
 
     void print(const std::string& text) const;

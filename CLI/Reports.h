@@ -7,6 +7,7 @@
 #include "Core/Cleaning/Cleaner.h"
 #include "Core/Modules.h"
 #include "Core/Scanning/ScanItem.h"
+#include "Core/Scanning/SharedStorage.h"
 
 #include <string>
 #include <vector>
@@ -24,14 +25,16 @@ struct CleaningPlan {
     CleanerModule module;
     CommandLine::Selection selection;
     std::vector<Step> steps;
+    SharedStorageOfItems shared; ///< Said of its items in the text alone.
 };
 
 /// The modules, those that can be scanned here marked as such.
 std::string modulesAsText();
 std::string modulesAsJson();
 
-/// The findings by category, in the order in which each category first occurs, with sizes and totals.
-std::string findingsAsText(const std::vector<ScanItem>& items);
+/// The findings by category, in the order in which each category first occurs, with sizes and totals; what an item
+/// shares with others of its set stands behind its path.
+std::string findingsAsText(const std::vector<ScanItem>& items, const SharedStorageOfItems& shared = {});
 /// `{"module", "items": [{"path", "displayName", "category", "sizeInBytes", "selectableByDefault"}], "totalBytes"}`;
 /// a path that is not UTF-8 is given as it is shown, and exactly as "pathBase64".
 std::string findingsAsJson(CleanerModule module, const std::vector<ScanItem>& items);

@@ -56,10 +56,21 @@ std::string remark(const ScanItem& item)
     return item.displayName.compare(0, name.size(), name) == 0 ? item.displayName.substr(name.size()) : std::string();
 }
 
-std::string line(const ScanItem& item, std::string_view mark)
+/// Said of a copy alone where the original loses nothing.
+std::string sharedRemark(const ScanItem& item, const SharedStorageOfItems& shared)
+{
+    const auto found = shared.find(item.id);
+    if (found == shared.end())
+        return {};
+    if (found->second == SharedStorage::OneName)
+        return " (the same file as another path of this set: cleaning one removes both)";
+    return item.selectableByDefault ? " (another name of the original: removing it alone frees no space)" : "";
+}
+
+std::string line(const ScanItem& item, std::string_view mark, const SharedStorageOfItems& shared)
 {
     return "  " + std::string(mark) + paddedLeft(formattedBytes(item.sizeInBytes), sizeWidth) + "  "
-        + displayText(item.url) + remark(item) + "\n";
+        + displayText(item.url) + remark(item) + sharedRemark(item, shared) + "\n";
 }
 
 void appendSteps(std::string& text, const CleaningPlan& plan, Cleaner::Action action, std::string_view heading)
@@ -71,13 +82,13 @@ void appendSteps(std::string& text, const CleaningPlan& plan, Cleaner::Action ac
         if (isFirst)
             text.append(heading).append("\n");
         isFirst = false;
-        text += line(step.item, "");
+        text += line(step.item, "", plan.shared);
     }
 }
 
 } // namespace
 
-std::string findingsAsText(const std::vector<ScanItem>& items)
+std::string findingsAsText(const std::vector<ScanItem>& items, const SharedStorageOfItems& shared)
 {
     if (items.empty())
         return nothingFound;
@@ -93,7 +104,7 @@ std::string findingsAsText(const std::vector<ScanItem>& items)
         text += padded(group.category, width) + paddedLeft(countOfItems(group.items.size()), countWidth)
             + paddedLeft(formattedBytes(group.bytes), sizeWidth + 2) + "\n";
         for (const auto* item : group.items) {
-            text += line(*item, item->selectableByDefault ? "[x]" : "[ ]");
+            text += line(*item, item->selectableByDefault ? "[x]" : "[ ]", shared);
             if (item->selectableByDefault) {
                 selectedBytes = checkedAdd(selectedBytes, item->sizeInBytes);
                 ++selectedCount;

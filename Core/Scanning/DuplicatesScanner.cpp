@@ -126,4 +126,10 @@ std::vector<ScanItem> DuplicatesScanner::scan(
     return emission.takeItems();
 }
 
+SharedStorageOfItems DuplicatesScanner::sharedStorage(
+    const std::vector<ScanItem>& items, const Cancellation& cancellation) const
+{
+    return sharedStorageInSets(items, cancellation);
+}
+
 } // namespace Korvane

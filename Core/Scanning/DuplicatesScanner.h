@@ -29,6 +29,9 @@ public:
     /// of equally old ones the first met in the walk. Sets of larger files come first.
     std::vector<ScanItem> scan(
         const Host& host, const ProgressHandler& progress, const Cancellation& cancellation) const override;
+
+    SharedStorageOfItems sharedStorage(
+        const std::vector<ScanItem>& items, const Cancellation& cancellation) const override;
 };
 
 } // namespace Korvane

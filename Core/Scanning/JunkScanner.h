@@ -5,6 +5,7 @@
 
 #include "Core/Scanning/ScanItem.h"
 #include "Core/Scanning/ScanProgress.h"
+#include "Core/Scanning/SharedStorage.h"
 #include "Platform/Cancellation.h"
 #include "Platform/Host.h"
 
@@ -23,6 +24,10 @@ public:
     /// Throws CancellationError when cancelled, and nothing else for what it cannot read.
     virtual std::vector<ScanItem> scan(
         const Host& host, const ProgressHandler& progress, const Cancellation& cancellation) const = 0;
+
+    /// What the items that scan() has found share with each other; most scanners find only what stands for itself.
+    /// Off the main thread; throws CancellationError when cancelled.
+    virtual SharedStorageOfItems sharedStorage(const std::vector<ScanItem>&, const Cancellation&) const { return {}; }
 };
 
 } // namespace Korvane

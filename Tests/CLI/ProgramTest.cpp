@@ -131,6 +131,24 @@ TEST_F(ProgramTest, LargeFilesAndDuplicatesAreScannedToo)
     EXPECT_EQ(text(json()["module"]), "largeFiles");
 }
 
+TEST_F(ProgramTest, CopyThatIsAnotherNameOfTheOriginalIsSaidToFreeNothing)
+{
+    const std::string remark = "(another name of the original: removing it alone frees no space)\n";
+    writeFile(home() / "a.bin", std::string(1'048'576, 'x'));
+    writeFile(home() / "b.bin", std::string(1'048'576, 'x'));
+    EXPECT_EQ(run({ "scan", "duplicates" }), 0);
+    EXPECT_EQ(output.find(remark), std::string::npos) << output;
+    std::filesystem::remove(home() / "b.bin");
+    std::filesystem::create_hard_link(home() / "a.bin", home() / "b.bin");
+    EXPECT_EQ(run({ "scan", "duplicates" }), 0);
+    EXPECT_NE(output.find(".bin " + remark), std::string::npos) << output;
+    EXPECT_NE(output.find(".bin (original)\n"), std::string::npos) << output;
+    EXPECT_EQ(run({ "clean", "duplicates" }), 0);
+    EXPECT_NE(output.find(".bin " + remark), std::string::npos) << output;
+    EXPECT_EQ(run({ "scan", "duplicates", "--json" }), 0);
+    EXPECT_EQ(json()["items"].toArray()[0].toObject().size(), 5);
+}
+
 TEST_F(ProgramTest, OutputThatCannotBeWrittenIsAFailure)
 {
     makeLog("run.log");

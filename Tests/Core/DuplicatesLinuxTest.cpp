@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "Tests/Core/DuplicatesFixture.h"
+#include "Tests/Support/PrivateMounts.h"
 
 #include <gtest/gtest.h>
 
@@ -32,6 +33,24 @@ TEST_F(DuplicatesLinuxTest, OnlyFilesThatShareTheirSizeAreOpened)
     ASSERT_EQ(size, static_cast<ssize_t>(sizeof(inotify_event)));
     EXPECT_EQ(reinterpret_cast<const inotify_event*>(buffer)->wd, shared);
     EXPECT_NE(shared, alone);
+}
+
+TEST_F(DuplicatesLinuxTest, FileReachedByTwoMountsIsASetWhoseRemovalRemovesBoth)
+{
+    if (!canMountPrivately())
+        GTEST_SKIP() << "this machine lets nobody mount privately";
+    make("real/a", small);
+    std::filesystem::create_directory(home() / "shown");
+    const auto answer = runWithPrivateMounts([this] {
+        mountBound(home() / "real", home() / "shown");
+        const DuplicatesScanner scanner(home(), 100, 1000);
+        const auto items = scanSmall();
+        std::string text = std::to_string(items.size());
+        for (const auto& [id, shared] : scanner.sharedStorage(items, {}))
+            text += shared == SharedStorage::OneName ? " name" : " file";
+        return text;
+    });
+    EXPECT_EQ(answer, "2 name name");
 }
 
 } // namespace Korvane

@@ -20,6 +20,7 @@ T.CheckDelegate {
     required property string category
     required property bool ticked
     required property bool shielded
+    required property string sharedHelp
 
     /// Whether the row that has the focus is to show it although it did not get it by Tab.
     property bool showsFocus: false
@@ -27,6 +28,9 @@ T.CheckDelegate {
     property bool togglesCategory: false
 
     readonly property string shieldHelp: qsTr("Not selected by default — may be in use or needed by the system.")
+    /// What is to be known of the row beside what it shows.
+    readonly property string remarks: (row.shielded ? ". " + row.shieldHelp : "")
+                                      + (row.sharedHelp === "" ? "" : (row.shielded ? " " : ". ") + row.sharedHelp)
 
     /// The menu is wanted, at this place of the row.
     signal menuRequested(real x, real y)
@@ -46,8 +50,7 @@ T.CheckDelegate {
     text: row.name
     Accessible.role: Accessible.CheckBox
     Accessible.name: row.name
-    Accessible.description: row.shielded ? row.size + ", " + row.folder + ". " + row.shieldHelp
-                                         : row.size + ", " + row.folder
+    Accessible.description: row.size + ", " + row.folder + row.remarks
     Accessible.checkable: true
     Accessible.checked: row.checked
     Accessible.focusable: true
@@ -102,7 +105,9 @@ T.CheckDelegate {
         // By the property and not by an id, which would make the row lay out its content before it is needed.
         readonly property ResultRowContent content: row.contentItem as ResultRowContent
 
-        text: content !== null && content.shieldHovered ? row.shieldHelp : row.path
+        readonly property string first: content !== null && content.shieldHovered ? row.shieldHelp : row.path
+
+        text: row.sharedHelp === "" ? first : first + "\n" + row.sharedHelp
     }
 
     background: Item {

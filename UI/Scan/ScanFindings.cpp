@@ -9,8 +9,9 @@
 
 namespace Korvane {
 
-ScanFindings::ScanFindings(std::vector<ScanItem> items)
+ScanFindings::ScanFindings(std::vector<ScanItem> items, SharedStorageOfItems shared)
     : m_items(std::move(items))
+    , m_shared(std::move(shared))
 {
     sortIntoCategories();
     layOutRows();
@@ -64,6 +65,14 @@ std::optional<std::size_t> ScanFindings::categoryNamed(const std::string& title)
 {
     const auto entry = m_categoryByTitle.find(title);
     if (entry == m_categoryByTitle.end())
+        return std::nullopt;
+    return entry->second;
+}
+
+std::optional<SharedStorage> ScanFindings::sharedStorageOf(const Uuid& id) const
+{
+    const auto entry = m_shared.find(id);
+    if (entry == m_shared.end())
         return std::nullopt;
     return entry->second;
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Core/Scanning/ScanItem.h"
+#include "Core/Scanning/SharedStorage.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -31,13 +32,15 @@ public:
     ScanFindings() = default;
 
     /// Takes the items in the order of the scanner. A byte total that does not fit stops the program.
-    explicit ScanFindings(std::vector<ScanItem> items);
+    explicit ScanFindings(std::vector<ScanItem> items, SharedStorageOfItems shared = {});
 
     /// In the order of the scanner.
     const std::vector<ScanItem>& items() const { return m_items; }
     /// The distinct categories in the order of their first items.
     const std::vector<Category>& categories() const { return m_categories; }
     std::int64_t totalBytes() const { return m_totalBytes; }
+    /// What the item shares with others of its set; nothing for most.
+    std::optional<SharedStorage> sharedStorageOf(const Uuid& id) const;
 
     /// Where the item with this identity lies in items(); nothing when it is not of this scan.
     std::optional<std::size_t> indexOf(const Uuid& id) const;
@@ -56,6 +59,7 @@ private:
     void layOutRows();
 
     std::vector<ScanItem> m_items;
+    SharedStorageOfItems m_shared;
     std::vector<Category> m_categories;
     std::int64_t m_totalBytes = 0;
     std::unordered_map<Uuid, std::size_t> m_indexById;

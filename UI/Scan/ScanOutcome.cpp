@@ -11,7 +11,9 @@ std::optional<ScanOutcome> ScanOutcome::of(const JunkScanner& scanner, const Hos
     const ProgressHandler& progress, const Cancellation& cancellation) noexcept
 {
     try {
-        auto findings = std::make_shared<const ScanFindings>(scanner.scan(host, progress, cancellation));
+        auto items = scanner.scan(host, progress, cancellation);
+        auto shared = scanner.sharedStorage(items, cancellation);
+        auto findings = std::make_shared<const ScanFindings>(std::move(items), std::move(shared));
         cancellation.throwIfCancelled();
         ScanSelection selection = ScanSelection::ofDefaults(findings);
         return ScanOutcome{ std::move(findings), std::move(selection) };

@@ -135,6 +135,20 @@ QString ScanResultsModel::folderText(const ScanItem& item) const
     return QLatin1Char('~') + QString::fromStdString(displayText(std::string_view(whole).substr(home.size())));
 }
 
+QString ScanResultsModel::sharedHelp(const ScanItem& item) const
+{
+    const auto shared = m_findings->sharedStorageOf(item.id);
+    if (!shared)
+        return {};
+    switch (*shared) {
+    case SharedStorage::OneFile:
+        return tr("All files of this set are one file under several names: removing copies frees no space.");
+    case SharedStorage::OneName:
+        return tr("Another path of this set leads to this same file: cleaning one removes both.");
+    }
+    return {};
+}
+
 int ScanResultsModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_findings->items().size());
@@ -164,6 +178,8 @@ QVariant ScanResultsModel::data(const QModelIndex& index, int role) const
         return m_selection.containsItem(itemIndex);
     case ShieldedRole:
         return !item.selectableByDefault;
+    case SharedHelpRole:
+        return sharedHelp(item);
     default:
         return {};
     }
@@ -172,7 +188,8 @@ QVariant ScanResultsModel::data(const QModelIndex& index, int role) const
 QHash<int, QByteArray> ScanResultsModel::roleNames() const
 {
     return { { ItemIdRole, "itemId" }, { NameRole, "name" }, { FolderRole, "folder" }, { PathRole, "path" },
-        { SizeRole, "size" }, { CategoryRole, "category" }, { TickedRole, "ticked" }, { ShieldedRole, "shielded" } };
+        { SizeRole, "size" }, { CategoryRole, "category" }, { TickedRole, "ticked" }, { ShieldedRole, "shielded" },
+        { SharedHelpRole, "sharedHelp" } };
 }
 
 } // namespace Korvane

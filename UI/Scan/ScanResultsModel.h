@@ -32,6 +32,7 @@ public:
         CategoryRole,
         TickedRole,
         ShieldedRole, ///< Whether the item is one that is not selected by default.
+        SharedHelpRole, ///< What cleaning an item does that shares its storage with others; empty for most.
     };
     Q_ENUM(Role)
 
@@ -70,6 +71,7 @@ Q_SIGNALS:
 private:
     void setTickedItem(std::size_t itemIndex, bool ticked);
     QString folderText(const ScanItem& item) const;
+    QString sharedHelp(const ScanItem& item) const;
 
     std::filesystem::path m_home;
     std::shared_ptr<const ScanFindings> m_findings;

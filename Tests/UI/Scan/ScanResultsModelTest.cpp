@@ -49,6 +49,7 @@ private Q_SLOTS:
     void groupsRowsByCategoryInOrderOfFirstOccurrence();
     void showsWhereEachItemLies();
     void showsANameThatIsNotUtf8();
+    void saysOfRowsThatShareTheirStorageWhatCleaningDoes();
     void ticksByIdentityAndAnnouncesOnlyThatRow();
     void ignoresAnIdentityFromAnotherScan();
     void ticksAWholeCategory();
@@ -100,6 +101,19 @@ void ScanResultsModelTest::showsANameThatIsNotUtf8()
     QCOMPARE(model.index(0).data(ScanResultsModel::FolderRole).toString(), QStringLiteral("~/caf\uFFFD"));
     QCOMPARE(model.index(0).data(ScanResultsModel::PathRole).toString(),
         QStringLiteral("/home/someone/caf\uFFFD/\uFFFD.log"));
+}
+
+void ScanResultsModelTest::saysOfRowsThatShareTheirStorageWhatCleaningDoes()
+{
+    std::vector<ScanItem> items = someItems();
+    SharedStorageOfItems shared{ { items[0].id, SharedStorage::OneFile }, { items[1].id, SharedStorage::OneName } };
+    const auto findings = std::make_shared<const ScanFindings>(std::move(items), std::move(shared));
+    ScanResultsModel model("/home/someone");
+    show(model, findings);
+    QCOMPARE(column(model, ScanResultsModel::SharedHelpRole),
+        QStringList({ "All files of this set are one file under several names: removing copies frees no space.", "",
+            "Another path of this set leads to this same file: cleaning one removes both.", "" }));
+    QCOMPARE(model.roleNames().value(ScanResultsModel::SharedHelpRole), QByteArray("sharedHelp"));
 }
 
 void ScanResultsModelTest::ticksByIdentityAndAnnouncesOnlyThatRow()

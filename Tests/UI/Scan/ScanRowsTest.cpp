@@ -3,6 +3,7 @@
 
 #include "Tests/UI/Scan/ScanScreenFixture.h"
 
+#include <QAccessible>
 #include <QTest>
 
 using namespace Korvane;
@@ -14,6 +15,7 @@ class ScanRowsTest : public ScanScreenFixture {
 private Q_SLOTS:
     void spaceWithShiftTicksTheWholeCategory();
     void anywhereOnARowThePointerShowsTheWholePath();
+    void aSetOfNamesOfOneFileSaysThatCleaningFreesNothing();
     void theKeyboardFollowsToTheScreenThatItOpened();
 };
 
@@ -48,6 +50,36 @@ void ScanRowsTest::anywhereOnARowThePointerShowsTheWholePath()
         QTRY_VERIFY2(shows(path), qPrintable(QString::number(place)));
         QTest::mouseMove(window(), QPoint(2, 2));
         QTRY_VERIFY(!shows(path));
+    }
+}
+
+void ScanRowsTest::aSetOfNamesOfOneFileSaysThatCleaningFreesNothing()
+{
+    const QString help
+        = utf8("All files of this set are one file under several names: removing copies frees no space.");
+    writeFile(home() / "Films/holiday.mov", std::string(1'100'000, 'h'));
+    std::filesystem::create_hard_link(home() / "Films/holiday.mov", home() / "Films/same.mov");
+    writeFile(home() / "Music/song.flac", std::string(1'200'000, 's'));
+    writeFile(home() / "Music/copy.flac", std::string(1'200'000, 's'));
+    press("Duplicates");
+    press("Start Scan");
+    const std::vector<std::pair<const char*, bool>> rows{ { "same.mov", true }, { "holiday.mov", true },
+        { "copy.flac", false }, { "song.flac", false } };
+    QTRY_VERIFY(named("Clean"));
+    for (const auto& [name, isSaid] : rows) {
+        QQuickItem* item = nullptr;
+        QTRY_VERIFY2((item = row(name)) || (item = row((std::string(name) + " (original)").c_str())), name);
+        const QString description = QAccessible::queryAccessibleInterface(item)->text(QAccessible::Description);
+        QCOMPARE(description.contains(help), isSaid);
+        const QPointF middle(item->width() / 2, item->height() / 2);
+        QTest::mouseMove(window(), item->mapToScene(middle).toPoint());
+        QTRY_VERIFY2(!visibleTexts(window())
+                          .filter(QString::fromStdString((home() / (isSaid ? "Films" : "Music") / name).string()))
+                          .isEmpty(),
+            name);
+        QCOMPARE(!visibleTexts(window()).filter(help).isEmpty(), isSaid);
+        QTest::mouseMove(window(), QPoint(2, 2));
+        QTRY_VERIFY(visibleTexts(window()).filter(help).isEmpty());
     }
 }
 
