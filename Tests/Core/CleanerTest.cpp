@@ -4,6 +4,7 @@
 #include "Platform/FileError.h"
 #include "Tests/Core/CleanerFixture.h"
 #include "Tests/Support/OrdinaryUser.h"
+#include "Tests/Support/PrivateRoot.h"
 
 #include <gtest/gtest.h>
 
@@ -117,10 +118,18 @@ TEST_F(CleanerTest, LackOfMemoryForOneItemIsThatItemsFailure)
 
 TEST_F(CleanerTest, HomeFolderAndRootAreRefusedWithAnError)
 {
-    const auto result = clean({ item(home(), 1), item("/", 1), item("relative", 1), item("", 1) }, Removal::Delete);
-    EXPECT_EQ(result.cleanedCount, 0);
-    EXPECT_EQ(result.failures.size(), 4U);
-    EXPECT_TRUE(std::filesystem::is_directory(home()));
+    for (const bool moveToTrash : { false, true }) {
+        const auto answer = runInPrivateRoot(folder().path(), [&] {
+            const auto real = makeFileManager(Environment::inFolder("/"));
+            const auto result = Cleaner::clean(
+                { item("/home", 1), item("/", 1), item("relative", 1), item("", 1) }, moveToTrash, *real);
+            return std::to_string(result.cleanedCount) + " cleaned, " + std::to_string(result.failures.size())
+                + " refused";
+        });
+        if (!answer)
+            GTEST_SKIP() << noPrivateRoot;
+        EXPECT_EQ(*answer, "0 cleaned, 4 refused");
+    }
 }
 
 TEST_F(CleanerTest, UnwritableFolderOfSomebodyElseIsAFailureAndNothingIsLost)

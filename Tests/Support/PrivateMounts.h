@@ -16,6 +16,10 @@ bool canMountPrivately();
 /// Runs `work` in a child process (as runInChild does) whose mounts nobody else sees and which end with it.
 std::string runWithPrivateMounts(const std::function<std::string()>& work);
 
+/// Gives this process, a child of the test, mounts of its own; without root's rights, in a user namespace in which it
+/// is root. Throws std::system_error.
+void leaveSharedMounts();
+
 /// Mounts a new file system in memory; `options` as in mount(8), such as "size=64k". Throws std::system_error.
 void mountMemory(const std::filesystem::path& folder, const std::string& options = {});
 

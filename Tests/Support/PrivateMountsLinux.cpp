@@ -23,6 +23,8 @@ void require(int result, const std::string& what)
         throw std::system_error(errno, std::generic_category(), what);
 }
 
+} // namespace
+
 void leaveSharedMounts()
 {
     const auto user = ::geteuid();
@@ -36,8 +38,6 @@ void leaveSharedMounts()
     }
     require(::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr), "make mounts private");
 }
-
-} // namespace
 
 bool canMountPrivately()
 {

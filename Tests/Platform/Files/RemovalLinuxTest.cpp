@@ -2,18 +2,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "Tests/Platform/Files/FileManagerFixture.h"
+#include "Tests/Support/PrivateMounts.h"
+#include "Tests/Support/PrivateRoot.h"
 
 namespace Korvane {
 namespace {
 
-/// What only this host has: names of any bytes, and places that are known to be mounted or shared.
+/// What only this host has: names of any bytes, and mounts that a test can make.
 using RemovalLinuxTest = FileManagerFixture;
 
-// Of the system's own places only the one in which nothing can be removed anyway, should the refusal ever break.
-TEST_F(RemovalLinuxTest, TheSystemsMountPointsAreRefused)
+TEST_F(RemovalLinuxTest, AVolumeMountedBelowTheRootIsRefused)
 {
-    EXPECT_NE(removing("/proc").find("never removed"), std::string::npos);
-    EXPECT_NE(trashing("/proc").find("never removed"), std::string::npos);
+    if (!canMountPrivately())
+        GTEST_SKIP() << "This machine permits no private mounts, and no test aims at its real ones.";
+    std::filesystem::create_directory(m_folder / "volume");
+    const auto answer = runInPrivateRoot(m_folder.path(), [] {
+        mountMemory("/volume");
+        writeFile("/volume/kept", "x");
+        const auto files = makeFileManager(Environment::inFolder("/"));
+        const auto refusal = failureOf([&] { files->removeItem("/volume"); });
+        return refusal + failureOf([&] { files->trashItem("/volume"); }) + readFile("/volume/kept");
+    });
+    ASSERT_TRUE(answer.has_value());
+    const std::string refusal = "“/volume” is where a volume is mounted, and is never removed.";
+    EXPECT_EQ(*answer, refusal + refusal + "x");
 }
 
 TEST_F(RemovalLinuxTest, NamesOfAnyBytesAndOf255Bytes)

@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "Tests/Platform/Files/FileManagerFixture.h"
+#include "Tests/Support/PrivateRoot.h"
 
+#include <optional>
 #include <sys/stat.h>
+#include <vector>
 
 namespace Korvane {
 namespace {
@@ -12,6 +15,22 @@ namespace {
 class RemovalRefusalsTest : public FileManagerFixture {
 protected:
     void SetUp() override { writeFile(home("content"), "x"); }
+
+    /// What answers to removing and to trashing places of a root in which only this test's files are; nothing when
+    /// there cannot be one. Its home is "/users/home", and everything in it is still there after refusals alone.
+    std::optional<std::string> answersInPrivateRoot(const std::vector<std::filesystem::path>& paths) const
+    {
+        writeFile(m_folder / "users/home/content", "x");
+        return runInPrivateRoot(m_folder.path(), [&] {
+            const auto files = makeFileManager(Environment::inFolder("/users"));
+            std::string answers;
+            for (const auto& path : paths) {
+                answers += failureOf([&] { files->removeItem(path); }) + '\n';
+                answers += failureOf([&] { files->trashItem(path); }) + '\n';
+            }
+            return answers + failureOf([&] { files->emptyTrash("/"); }) + '\n' + readFile("/users/home/content");
+        });
+    }
 
     void expectRefused(const std::filesystem::path& path, const std::string& reason) const
     {
@@ -38,8 +57,11 @@ TEST_F(RemovalRefusalsTest, APathWithANul)
 
 TEST_F(RemovalRefusalsTest, TheRoot)
 {
-    expectRefused("/", "root of the file system");
-    expectRefused("///", "root of the file system");
+    const auto answers = answersInPrivateRoot({ "/", "///" });
+    if (!answers)
+        GTEST_SKIP() << noPrivateRoot;
+    const std::string refusal = "The root of the file system is never removed.\n";
+    EXPECT_EQ(*answers, refusal + refusal + refusal + refusal + "“/” is not a Trash of this user.\nx");
 }
 
 TEST_F(RemovalRefusalsTest, PathsThatEndInDots)
@@ -59,7 +81,13 @@ TEST_F(RemovalRefusalsTest, TheHomeFolder)
 TEST_F(RemovalRefusalsTest, WhatHoldsTheHomeFolder)
 {
     expectRefused(m_folder.path(), "is the home folder, or holds it");
-    expectRefused(m_folder.path().parent_path(), "is the home folder, or holds it");
+    const auto answers = answersInPrivateRoot({ "/users", "/users/home" });
+    if (!answers)
+        GTEST_SKIP() << noPrivateRoot;
+    const std::string tail = " is the home folder, or holds it, and is never removed.\n";
+    EXPECT_EQ(*answers,
+        "“/users”" + tail + "“/users”" + tail + "“/users/home”" + tail + "“/users/home”" + tail
+            + "“/” is not a Trash of this user.\nx");
 }
 
 TEST_F(RemovalRefusalsTest, TheHomeFolderByAnotherWay)
@@ -107,7 +135,7 @@ TEST_F(RemovalRefusalsTest, AFolderSharedByAllUsers)
 TEST_F(RemovalRefusalsTest, AFolderThatIsNoTrashIsNotEmptied)
 {
     EXPECT_NE(failureOf([&] { m_files->emptyTrash(m_environment.home); }), "");
-    EXPECT_NE(failureOf([&] { m_files->emptyTrash("/"); }), "");
+    EXPECT_NE(failureOf([&] { m_files->emptyTrash(m_folder.path()); }), "");
     EXPECT_EQ(readFile(home("content")), "x");
 }
 

@@ -88,11 +88,13 @@ TEST_F(TrashVolumesTest, AnotherUsersTrashIsRefused)
     const bool isRoot = geteuid() == 0;
     EXPECT_EQ(onVolume([&] {
         std::filesystem::create_directory(ownTrash().path);
-        if (!isRoot)
-            mountBound(
-                "/usr", ownTrash().path); // Nobody else is known in there, but what is root's outside is foreign.
-        else if (chown(ownTrash().path.c_str(), 12345, 12345) != 0)
+        if (!isRoot) {
+            // Nobody else is known in there, but what is root's outside is foreign.
+            mountBound("/usr", ownTrash().path);
+            makeMountReadOnly(ownTrash().path);
+        } else if (chown(ownTrash().path.c_str(), 12345, 12345) != 0) {
             return std::string("chown failed");
+        }
         const std::string failure = trashing(m_volume / "folder/item");
         return (failure.find("is not a folder of this user") != std::string::npos ? "refused, " : failure)
             + untouched();
