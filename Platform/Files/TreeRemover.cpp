@@ -3,9 +3,10 @@
 
 #include "Platform/Files/TreeRemover.h"
 
-#include "Platform/Files/RemovalLimits.h"
 #include "Platform/Files/Retry.h"
+#include "Platform/Files/ThreadWaits.h"
 
+#include <algorithm>
 #include <fcntl.h>
 #include <new>
 #include <system_error>
@@ -20,6 +21,8 @@ constexpr std::size_t foldersAtOnce = 4096;
 /// Work that is worth a thread: entries already removed, and folders waiting.
 constexpr std::size_t entriesBeforeHelp = 512;
 constexpr std::size_t foldersBeforeHelp = 4;
+/// A thread that sleeps once for so many entries, or more often, waits for a device.
+constexpr std::size_t entriesToAWait = 16;
 /// How often a folder may turn out not empty after its last entry was removed, while others put things into it.
 constexpr unsigned mostPasses = 100;
 
@@ -27,9 +30,9 @@ constexpr unsigned mostPasses = 100;
 
 TreeRemover::TreeRemover(const ItemPlace& item)
     : m_item(item)
-    , m_workers(RemovalLimits::current().workers)
-    , m_cache(RemovalLimits::current().openFolders)
-    , m_queue(m_workers)
+    , m_limits(RemovalLimits::current())
+    , m_cache(m_limits.openFolders)
+    , m_queue(std::max(m_limits.workers, m_limits.waitingWorkers))
 {
 }
 
@@ -58,6 +61,7 @@ void TreeRemover::work(std::size_t number)
     try {
         Worker worker;
         worker.number = number;
+        worker.waits = waitsOfThisThread();
         while (DoomedFolder* folder = m_queue.take(number)) {
             process(worker, *folder);
             m_queue.done();
@@ -73,11 +77,18 @@ void TreeRemover::startHelpers(const Worker& worker)
         || m_queue.waiting() < foldersBeforeHelp)
         return;
     try {
-        while (m_helpers.size() + 1 < m_workers)
+        for (const std::size_t workers = workersFor(worker); m_helpers.size() + 1 < workers;)
             m_helpers.emplace_back(&TreeRemover::work, this, m_helpers.size() + 1);
     } catch (const std::system_error&) {
         // Fewer threads, or none beside this one, do the same work.
     }
+}
+
+/// While a thread waits for a device another one may use its processor, and give the device its next work.
+std::size_t TreeRemover::workersFor(const Worker& worker) const
+{
+    const std::size_t waits = waitsOfThisThread() - worker.waits;
+    return waits * entriesToAWait >= worker.removed ? m_limits.waitingWorkers : m_limits.workers;
 }
 
 void TreeRemover::process(Worker& worker, DoomedFolder& folder)

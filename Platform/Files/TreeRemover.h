@@ -9,6 +9,7 @@
 #include "Platform/Files/FolderCache.h"
 #include "Platform/Files/FolderQueue.h"
 #include "Platform/Files/ItemPlace.h"
+#include "Platform/Files/RemovalLimits.h"
 
 #include <atomic>
 #include <list>
@@ -37,6 +38,7 @@ private:
     struct Worker {
         std::size_t number = 0;
         std::size_t removed = 0;
+        std::size_t waits = 0; ///< Of its thread, before the first folder.
         EntryBatch batch;
         std::list<DoomedFolder> found;
     };
@@ -45,6 +47,7 @@ private:
 
     void work(std::size_t number);
     void startHelpers(const Worker& worker);
+    std::size_t workersFor(const Worker& worker) const;
     void process(Worker& worker, DoomedFolder& folder);
     bool open(DoomedFolder& folder, FolderCache::Lease& lease, bool& gone);
     int openRefused(DoomedFolder& folder, FolderCache::Lease& lease);
@@ -64,7 +67,7 @@ private:
     std::filesystem::path pathOf(const DoomedFolder& folder, const std::string& name) const;
 
     const ItemPlace& m_item;
-    const std::size_t m_workers;
+    const RemovalLimits m_limits;
     FolderCache m_cache;
     FolderQueue m_queue;
     DoomedFolder m_container;
