@@ -5,35 +5,43 @@
 
 #include "Platform/Cancellation.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 
 namespace Korvane {
 
-/// SHA-256 digests of the first bytes of regular files, one file after another.
+class PrefixReader;
+
+/// SHA-256 digests of the first bytes of regular files, one file after another, while the next ones are being read.
 ///
-/// Holds one buffer of at most the prefix for all files. One thread at a time.
+/// Holds two buffers of at most the prefix (4 MiB each when that is larger) for all files, and at most 8 open files.
+/// One thread at a time.
 class FileDigest {
 public:
-    /// At most `prefixBytes` from the start of each file are read; none when it is not positive.
-    explicit FileDigest(std::int64_t prefixBytes);
+    /// The path of the file of this number. Called on a thread of the digest's own, only for files whose digest has not
+    /// been given yet; the path must stay until it has.
+    using PathAt = std::function<const std::filesystem::path&(std::size_t)>;
+
+    /// At most `prefixBytes` from the start of each of `files` files are read; none when it is not positive.
+    FileDigest(std::size_t files, PathAt pathAt, std::int64_t prefixBytes, const Cancellation& cancellation = {});
     ~FileDigest();
     FileDigest(const FileDigest&) = delete;
     FileDigest& operator=(const FileDigest&) = delete;
 
-    /// The digest as 64 lower-case hexadecimal digits.
+    /// The digest of the next file as 64 lower-case hexadecimal digits.
     ///
-    /// Nothing when `file` cannot be opened or read, is a link or no regular file, or has its content elsewhere
-    /// (a placeholder that reading would download). Throws CancellationError when cancelled.
-    std::optional<std::string> prefixHash(const std::filesystem::path& file, const Cancellation& cancellation = {});
+    /// Nothing when it cannot be opened or read, is a link or no regular file, or has its content elsewhere (a
+    /// placeholder that reading would download). Throws CancellationError when cancelled. To be called once per file.
+    std::optional<std::string> nextPrefixHash();
 
 private:
-    std::int64_t m_prefixBytes;
-    std::size_t m_capacity;
-    std::unique_ptr<unsigned char[]> m_buffer; ///< Made for the first file: a scan without candidates needs none.
+    Cancellation m_cancellation;
+    std::unique_ptr<PrefixReader> m_reader;
 };
 
 } // namespace Korvane

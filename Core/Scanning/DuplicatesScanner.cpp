@@ -45,13 +45,32 @@ std::vector<Candidate> candidates(const DuplicatesScanner& scanner, const std::f
     return found;
 }
 
+/// Where the files of the same size as the first end.
+std::vector<Candidate>::iterator endOfSize(std::vector<Candidate>::iterator first, std::vector<Candidate>::iterator end)
+{
+    return std::find_if(first, end, [size = first->size](const Candidate& file) { return file.size != size; });
+}
+
+/// Leaves out each file whose size no other has: it is never opened.
+void removeUniqueSizes(std::vector<Candidate>& files)
+{
+    auto kept = files.begin();
+    for (auto begin = files.begin(); begin != files.end();) {
+        const auto end = endOfSize(begin, files.end());
+        if (end - begin >= 2)
+            kept = kept == begin ? end : std::move(begin, end, kept);
+        begin = end;
+    }
+    files.erase(kept, files.end());
+}
+
 /// The files of one size by digest, in the order in which each digest was first met; unreadable files are left out.
-std::vector<std::vector<Candidate>> groupByDigest(SizeGroup group, FileDigest& digest, const Cancellation& cancellation)
+std::vector<std::vector<Candidate>> groupByDigest(SizeGroup group, FileDigest& digest)
 {
     std::vector<std::vector<Candidate>> sets;
     std::unordered_map<std::string, std::size_t> byHash;
     for (auto candidate = group.begin; candidate != group.end; ++candidate) {
-        const auto hash = digest.prefixHash(candidate->url, cancellation);
+        const auto hash = digest.nextPrefixHash();
         if (!hash)
             continue;
         const auto [entry, isNew] = byHash.try_emplace(*hash, sets.size());
@@ -109,17 +128,17 @@ std::vector<ScanItem> DuplicatesScanner::scan(
     const Host& host, const ProgressHandler& progress, const Cancellation& cancellation) const
 {
     auto files = candidates(*this, host.files->homeDirectoryForCurrentUser(), progress, cancellation);
-    FileDigest digest(hashPrefixBytes);
+    removeUniqueSizes(files);
+    // Files are read ahead across sizes; a file that has its digest may leave its place in the list.
+    const auto pathAt = [&](std::size_t index) -> const std::filesystem::path& { return files[index].url; };
+    FileDigest digest(files.size(), pathAt, hashPrefixBytes, cancellation);
     Emission emission(progress);
     for (auto begin = files.begin(); begin != files.end();) {
-        const auto end
-            = std::find_if(begin, files.end(), [&](const Candidate& file) { return file.size != begin->size; });
-        if (end - begin >= 2) {
-            cancellation.throwIfCancelled();
-            for (auto& set : groupByDigest({ begin, end }, digest, cancellation)) {
-                if (set.size() >= 2)
-                    emission.emit(set);
-            }
+        const auto end = endOfSize(begin, files.end());
+        cancellation.throwIfCancelled();
+        for (auto& set : groupByDigest({ begin, end }, digest)) {
+            if (set.size() >= 2)
+                emission.emit(set);
         }
         begin = end;
     }

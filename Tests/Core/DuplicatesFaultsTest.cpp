@@ -8,6 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <iostream>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -20,7 +23,27 @@ namespace {
 constexpr std::size_t mebibyte = 1'048'576;
 
 /// Duplicates among odd files, in odd places, and where something changes or is stopped.
-class DuplicatesFaultsTest : public DuplicatesFixture { };
+class DuplicatesFaultsTest : public DuplicatesFixture {
+protected:
+    static constexpr std::size_t larger = 40;
+
+    /// Files that are all equal and compared before the small ones: more than are ever read ahead.
+    void makeLargerOnes() const
+    {
+        for (std::size_t i = 0; i < larger; ++i)
+            make("larger" + std::to_string(i), std::string(400 + i / 2, 'l'));
+    }
+
+    /// A scan in which something happens when the first copy has been found.
+    std::vector<ScanItem> scanDisturbed(const std::function<void()>& happens)
+    {
+        const auto atFirst = [&](const ScanProgress& progress) {
+            if (progress.itemsFound == 1)
+                happens();
+        };
+        return DuplicatesScanner(home(), 100, 1000).scan(host(), atFirst, {});
+    }
+};
 
 } // namespace
 
@@ -40,6 +63,18 @@ TEST_F(DuplicatesFaultsTest, NamesOfOneFileAreASet)
     EXPECT_EQ(scanSmall().size(), 2U);
 }
 
+TEST_F(DuplicatesFaultsTest, EachNameOfAFileIsAMemberBesideItsCopies)
+{
+    const auto original = make("a", small, std::chrono::hours(5));
+    std::filesystem::create_hard_link(original, home() / "b");
+    make("copy", small, std::chrono::hours(1));
+    const auto items = scanSmall();
+    ASSERT_EQ(items.size(), 3U);
+    EXPECT_EQ(items[2].url, home() / "copy");
+    EXPECT_FALSE(items[0].selectableByDefault);
+    EXPECT_TRUE(items[1].selectableByDefault && items[2].selectableByDefault);
+}
+
 TEST_F(DuplicatesFaultsTest, SparseFilesAreJudgedByTheirLogicalSize)
 {
     writeSparseFile(home() / "a", 3 * mebibyte);
@@ -47,6 +82,18 @@ TEST_F(DuplicatesFaultsTest, SparseFilesAreJudgedByTheirLogicalSize)
     const auto items = scanHome();
     ASSERT_EQ(items.size(), 2U);
     EXPECT_EQ(items[0].sizeInBytes, 3 * mebibyte);
+}
+
+TEST_F(DuplicatesFaultsTest, HowAFileIsStoredMakesNoDifference)
+{
+    writeSparseFile(home() / "sparse", 3 * mebibyte);
+    make("written", std::string(3 * mebibyte, '\0'));
+    std::size_t stored = 2;
+    if (writeAllocatedFile(home() / "preallocated", 3 * mebibyte))
+        ++stored;
+    else
+        std::cerr << "Nothing can be preallocated in " << home() << "; checking without.\n";
+    EXPECT_EQ(scanHome().size(), stored);
 }
 
 TEST_F(DuplicatesFaultsTest, FilesThatCannotBeReadAreLeftOut)
@@ -69,14 +116,8 @@ TEST_F(DuplicatesFaultsTest, FilesThatVanishBeforeTheyAreReadAreLeftOut)
 {
     make("a", small);
     make("b", small);
-    make("keep1", std::string(300, 'k'));
-    make("keep2", std::string(300, 'k'));
-    const auto vanish = [&](const ScanProgress& progress) {
-        if (progress.itemsFound == 1)
-            std::filesystem::remove(home() / "a");
-    };
-    const auto items = DuplicatesScanner(home(), 100, 1000).scan(host(), vanish, {});
-    EXPECT_EQ(items.size(), 2U);
+    makeLargerOnes();
+    EXPECT_EQ(scanDisturbed([&] { std::filesystem::remove(home() / "a"); }).size(), larger);
 }
 
 TEST_F(DuplicatesFaultsTest, FileReplacedByALinkOrAPipeBeforeItIsReadIsLeftOut)
@@ -84,17 +125,44 @@ TEST_F(DuplicatesFaultsTest, FileReplacedByALinkOrAPipeBeforeItIsReadIsLeftOut)
     make("a", small);
     make("b", small);
     make("c", small);
-    make("keep1", std::string(300, 'k'));
-    make("keep2", std::string(300, 'k'));
-    const auto replace = [&](const ScanProgress& progress) {
-        if (progress.itemsFound != 1)
-            return;
+    makeLargerOnes();
+    const auto replace = [&] {
         std::filesystem::remove(home() / "a");
         std::filesystem::create_symlink(home() / "c", home() / "a");
         std::filesystem::remove(home() / "b");
         ASSERT_EQ(mkfifo((home() / "b").c_str(), 0600), 0);
     };
-    EXPECT_EQ(DuplicatesScanner(home(), 100, 1000).scan(host(), replace, {}).size(), 2U);
+    EXPECT_EQ(scanDisturbed(replace).size(), larger);
+}
+
+TEST_F(DuplicatesFaultsTest, FilesThatShrinkOrGrowBeforeTheyAreReadAreComparedAsTheyThenAre)
+{
+    for (const char* name : { "a", "b", "c", "d" })
+        make(name, small);
+    makeLargerOnes();
+    const auto change = [&] {
+        std::filesystem::resize_file(home() / "a", 100);
+        std::filesystem::resize_file(home() / "b", 250);
+    };
+    const auto items = scanDisturbed(change);
+    ASSERT_EQ(items.size(), larger + 2);
+    EXPECT_EQ(items[larger].sizeInBytes, 200);
+    EXPECT_NE(itemAt(items, home() / "c"), nullptr);
+    EXPECT_NE(itemAt(items, home() / "d"), nullptr);
+}
+
+TEST_F(DuplicatesFaultsTest, FileThatBecomesUnreadableBeforeItIsReadIsLeftOut)
+{
+    for (const char* name : { "a", "b", "c" })
+        make(name, small);
+    makeLargerOnes();
+    giveToOrdinaryUser(folder().path());
+    const auto close = [&] { std::filesystem::permissions(home() / "b", std::filesystem::perms::none); };
+    EXPECT_EQ(runAsOrdinaryUser([&] {
+        const auto items = scanDisturbed(close);
+        return std::to_string(items.size() - larger) + (itemAt(items, home() / "b") ? " with b" : " without b");
+    }),
+        "2 without b");
 }
 
 TEST_F(DuplicatesFaultsTest, EmptyFilesAreASetWhenTheSmallestSizeAllowsIt)

@@ -4,6 +4,7 @@
 #include "Tests/Core/DuplicatesFixture.h"
 #include "Tests/Support/PrivateMounts.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <sys/inotify.h>
@@ -51,6 +52,23 @@ TEST_F(DuplicatesLinuxTest, FileReachedByTwoMountsIsASetWhoseRemovalRemovesBoth)
         return text;
     });
     EXPECT_EQ(answer, "2 name name");
+}
+
+TEST_F(DuplicatesLinuxTest, OneNameOfAFileReachedByTwoMountsIsTheOriginal)
+{
+    if (!canMountPrivately())
+        GTEST_SKIP() << "this machine lets nobody mount privately";
+    make("music/song", small);
+    std::filesystem::create_directory(home() / "again");
+    EXPECT_THAT(runWithPrivateMounts([&] {
+        mountBound(home() / "music", home() / "again");
+        std::string found;
+        for (const auto& item : scanSmall())
+            found
+                += item.url.lexically_relative(home()).native() + (item.selectableByDefault ? " copy " : " original ");
+        return found;
+    }),
+        testing::AnyOf("again/song original music/song copy ", "music/song original again/song copy "));
 }
 
 } // namespace Korvane

@@ -4,8 +4,8 @@
 #include "Platform/FileDigest.h"
 
 #include "Platform/Sha256.h"
+#include "Tests/Platform/DigestFixture.h"
 #include "Tests/Support/OrdinaryUser.h"
-#include "Tests/Support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -26,16 +26,7 @@ namespace {
 constexpr const char* digestOfNothing = "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855";
 constexpr const char* digestOfAbc = "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad";
 
-class FileDigestTest : public testing::Test {
-protected:
-    std::filesystem::path make(const std::string& name, const std::string& content) const
-    {
-        writeFile(folder / name, content);
-        return folder / name;
-    }
-
-    TemporaryFolder folder;
-};
+class FileDigestTest : public DigestFixture { };
 
 std::string digestOf(const std::string& bytes)
 {
@@ -64,15 +55,15 @@ TEST(Sha256Test, PiecesGiveTheDigestOfTheWhole)
 
 TEST_F(FileDigestTest, WholeFileIsHashedWhenItIsShorterThanThePrefix)
 {
-    EXPECT_EQ(FileDigest(100).prefixHash(make("abc", "abc")), digestOfAbc);
-    EXPECT_EQ(FileDigest(100).prefixHash(make("empty", "")), digestOfNothing);
+    EXPECT_EQ(prefixHash(make("abc", "abc"), 100), digestOfAbc);
+    EXPECT_EQ(prefixHash(make("empty", ""), 100), digestOfNothing);
 }
 
 TEST_F(FileDigestTest, OnlyThePrefixIsHashed)
 {
-    EXPECT_EQ(FileDigest(3).prefixHash(make("file", "abcdef")), digestOfAbc);
-    EXPECT_EQ(FileDigest(0).prefixHash(make("file", "abcdef")), digestOfNothing);
-    EXPECT_EQ(FileDigest(-1).prefixHash(make("file", "abcdef")), digestOfNothing);
+    EXPECT_EQ(prefixHash(make("file", "abcdef"), 3), digestOfAbc);
+    EXPECT_EQ(prefixHash(make("file", "abcdef"), 0), digestOfNothing);
+    EXPECT_EQ(prefixHash(make("file", "abcdef"), -1), digestOfNothing);
 }
 
 TEST_F(FileDigestTest, PrefixLargerThanOneReadIsHashedWhole)
@@ -80,15 +71,22 @@ TEST_F(FileDigestTest, PrefixLargerThanOneReadIsHashedWhole)
     std::string content(9'000'001, 'x');
     content[8'999'999] = 'y';
     const auto file = make("large", content);
-    EXPECT_EQ(FileDigest(16'000'000).prefixHash(file), digestOf(content));
-    EXPECT_EQ(FileDigest(8'500'000).prefixHash(file), digestOf(content.substr(0, 8'500'000)));
+    EXPECT_EQ(prefixHash(file, 16'000'000), digestOf(content));
+    EXPECT_EQ(prefixHash(file, 8'500'000), digestOf(content.substr(0, 8'500'000)));
 }
 
-TEST_F(FileDigestTest, OneDigestServesManyFiles)
+TEST_F(FileDigestTest, FilesAreGivenInTheirOrder)
 {
-    FileDigest digest(100);
-    EXPECT_EQ(digest.prefixHash(make("long", std::string(90, 'x'))), digestOf(std::string(90, 'x')));
-    EXPECT_EQ(digest.prefixHash(make("short", "abc")), digestOfAbc);
+    std::vector<std::filesystem::path> files;
+    std::vector<std::string> expected;
+    for (std::size_t i = 0; i < 300; ++i) {
+        const auto content = std::string(i * 37 % 500, 'x') + std::to_string(i);
+        files.push_back(make(std::to_string(i), content));
+        expected.push_back(digestOf(content.substr(0, 400)));
+    }
+    files.insert(files.begin() + 20, { folder / "missing", folder.path() });
+    expected.insert(expected.begin() + 20, 2, "none");
+    EXPECT_EQ(prefixHashes(files, 400), expected);
 }
 
 TEST_F(FileDigestTest, WhatIsNoRegularFileHasNoDigest)
@@ -96,10 +94,9 @@ TEST_F(FileDigestTest, WhatIsNoRegularFileHasNoDigest)
     make("target", "abc");
     std::filesystem::create_symlink(folder / "target", folder / "link");
     ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
-    FileDigest digest(100);
     for (const char* name : { "link", "pipe", "", "missing" })
-        EXPECT_EQ(digest.prefixHash(folder / name), std::nullopt) << name;
-    EXPECT_EQ(digest.prefixHash("/dev/null"), std::nullopt);
+        EXPECT_EQ(prefixHash(folder / name, 100), std::nullopt) << name;
+    EXPECT_EQ(prefixHash("/dev/null", 100), std::nullopt);
 }
 
 TEST_F(FileDigestTest, FileThatCannotBeReadHasNoDigest)
@@ -107,14 +104,14 @@ TEST_F(FileDigestTest, FileThatCannotBeReadHasNoDigest)
     const auto file = make("closed", "abc");
     giveToOrdinaryUser(folder.path());
     std::filesystem::permissions(file, std::filesystem::perms::none);
-    EXPECT_EQ(runAsOrdinaryUser([&] { return FileDigest(10).prefixHash(file).value_or("none"); }), "none");
+    EXPECT_EQ(runAsOrdinaryUser([&] { return prefixHash(file, 10).value_or("none"); }), "none");
 }
 
 TEST_F(FileDigestTest, FileOfSomebodyElseThatCanBeReadHasADigest)
 {
     const auto file = make("foreign", "abc");
     std::filesystem::permissions(file, std::filesystem::perms(0644));
-    EXPECT_EQ(runAsOrdinaryUser([&] { return FileDigest(10).prefixHash(file).value_or("none"); }), digestOfAbc);
+    EXPECT_EQ(runAsOrdinaryUser([&] { return prefixHash(file, 10).value_or("none"); }), digestOfAbc);
 }
 
 TEST_F(FileDigestTest, PathLongerThanTheSystemTakesAtOnceIsOpened)
@@ -133,8 +130,8 @@ TEST_F(FileDigestTest, PathLongerThanTheSystemTakesAtOnceIsOpened)
     ASSERT_EQ(write(file, "abc", 3), 3);
     close(file);
     close(parent);
-    EXPECT_EQ(FileDigest(10).prefixHash(path / "file"), digestOfAbc);
-    EXPECT_EQ(FileDigest(10).prefixHash(path / "missing"), std::nullopt);
+    EXPECT_EQ(prefixHash(path / "file", 10), digestOfAbc);
+    EXPECT_EQ(prefixHash(path / "missing", 10), std::nullopt);
 }
 
 TEST_F(FileDigestTest, AccessTimeOfTheUsersOwnFileStays)
@@ -142,7 +139,7 @@ TEST_F(FileDigestTest, AccessTimeOfTheUsersOwnFileStays)
     const auto file = make("file", "abc");
     const timespec times[2]{ { 1'000'000'000, 0 }, { 1'500'000'000, 0 } };
     ASSERT_EQ(utimensat(AT_FDCWD, file.c_str(), times, 0), 0);
-    EXPECT_EQ(FileDigest(10).prefixHash(file), digestOfAbc);
+    EXPECT_EQ(prefixHash(file, 10), digestOfAbc);
     struct stat status { };
     ASSERT_EQ(stat(file.c_str(), &status), 0);
     EXPECT_EQ(status.st_atime, 1'000'000'000);
@@ -158,7 +155,7 @@ TEST_F(FileDigestTest, CancelIsAnsweredWhileALargePrefixIsRead)
         cancellation.cancel();
     });
     const auto start = std::chrono::steady_clock::now();
-    EXPECT_THROW((void)FileDigest(std::int64_t{ 1 } << 36).prefixHash(file, cancellation), CancellationError);
+    EXPECT_THROW((void)prefixHash(file, std::int64_t{ 1 } << 36, cancellation), CancellationError);
     EXPECT_LT(std::chrono::steady_clock::now() - start, 5s);
     canceller.join();
 }

@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Platform/Hashing/DigestFile.h"
+
+#include "Platform/Hashing/OpenForDigest.h"
+#include "Platform/Walking/LongPath.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/uio.h>
+#include <unistd.h>
+
+namespace Korvane {
+
+namespace {
+
+constexpr int readFlags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+
+/// The kernel reads no more for one POSIX_FADV_WILLNEED than its read-ahead window, which is 128 KiB unless somebody
+/// has set it for the device (VM_READAHEAD_PAGES in linux/mm.h), and leaves out the rest.
+constexpr std::int64_t largestAdvice = 131'072;
+
+/// For each page of the range, in its lowest bit, whether it is in memory; nothing where that cannot be told.
+std::vector<unsigned char> residency(int descriptor, FileRange range, std::int64_t pageSize)
+{
+    const auto length = static_cast<std::size_t>(range.count);
+    void* const mapping = mmap(nullptr, length, PROT_READ, MAP_SHARED, descriptor, range.offset);
+    if (mapping == MAP_FAILED)
+        return {};
+    std::vector<unsigned char> pages(static_cast<std::size_t>((range.count + pageSize - 1) / pageSize));
+    if (mincore(mapping, length, pages.data()) != 0)
+        pages.clear();
+    munmap(mapping, length);
+    return pages;
+}
+
+/// The parts of the range, in whole pages, that are not in memory.
+std::vector<FileRange> rangesNotInMemory(int descriptor, FileRange range)
+{
+    static const std::int64_t pageSize = sysconf(_SC_PAGESIZE);
+    const auto pages = residency(descriptor, range, pageSize);
+    const auto isHeld = [](unsigned char page) { return (page & 1U) != 0; };
+    std::vector<FileRange> ranges;
+    for (auto begin = std::find_if_not(pages.begin(), pages.end(), isHeld); begin != pages.end();) {
+        const auto end = std::find_if(begin, pages.end(), isHeld);
+        ranges.push_back({ range.offset + (begin - pages.begin()) * pageSize, (end - begin) * pageSize });
+        begin = std::find_if_not(end, pages.end(), isHeld);
+    }
+    return ranges;
+}
+
+} // namespace
+
+FileDescriptor openForDigest(const std::filesystem::path& file)
+{
+    const LongPath path(file.native());
+    // Having been compared with its copies is no use of a file; only its owner may leave the access time alone.
+    FileDescriptor descriptor(openat(path.folder(), path.relative(), readFlags | O_NOATIME));
+    if (!descriptor && errno == EPERM)
+        descriptor = FileDescriptor(openat(path.folder(), path.relative(), readFlags));
+    // No more is to be read than is asked for, and that is told ahead; advice only, the read is the same without it.
+    if (descriptor)
+        (void)posix_fadvise(descriptor.get(), 0, 0, POSIX_FADV_RANDOM);
+    return descriptor;
+}
+
+std::vector<FileRange> DigestFile::tellAhead(FileRange range, const Cancellation& cancellation) const
+{
+    range.count = std::min(range.count, m_size - range.offset);
+    if (range.count <= 0)
+        return {};
+    const auto absent = rangesNotInMemory(m_descriptor.get(), range);
+    for (const auto& part : absent) {
+        for (auto offset = part.offset; offset < part.end() && !cancellation.isCancelled(); offset += largestAdvice) {
+            const auto count = std::min(largestAdvice, part.end() - offset);
+            (void)posix_fadvise(m_descriptor.get(), offset, count, POSIX_FADV_WILLNEED);
+        }
+    }
+    return absent;
+}
+
+void DigestFile::giveBack(const std::vector<FileRange>& ranges) const noexcept
+{
+    for (const auto& range : ranges)
+        (void)posix_fadvise(m_descriptor.get(), range.offset, range.count, POSIX_FADV_DONTNEED);
+}
+
+std::int64_t DigestFile::readFromMemory(unsigned char* buffer, FileRange range) const
+{
+    iovec target{ buffer, static_cast<std::size_t>(range.count) };
+    return std::max<std::int64_t>(preadv2(m_descriptor.get(), &target, 1, range.offset, RWF_NOWAIT), 0);
+}
+
+} // namespace Korvane

@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Tests/Platform/DigestFixture.h"
+#include "Tests/Platform/PageCache.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace Korvane {
+
+namespace {
+
+constexpr std::size_t mebibyte = 1'048'576;
+constexpr std::int64_t prefix = 4 * mebibyte;
+
+/// What a digest leaves in the system's cache, on a disk: a file system in memory forgets nothing.
+class FileDigestCacheTest : public DigestFixture {
+protected:
+    void SetUp() override
+    {
+        if (!canBeForgotten(folder / "probe"))
+            GTEST_SKIP() << folder.path() << " lies in memory: what its files leave there cannot be seen";
+    }
+
+    /// A file that is on disk and nowhere else.
+    std::filesystem::path makeCold(const std::string& name, std::size_t size) const
+    {
+        auto path = make(name, std::string(size, 'c'));
+        forget(path);
+        EXPECT_EQ(pagesInMemory(path), 0U) << name;
+        return path;
+    }
+};
+
+} // namespace
+
+TEST_F(FileDigestCacheTest, ColdFilesAreNotInMemoryAfterwards)
+{
+    std::vector<std::filesystem::path> files;
+    for (const std::size_t size : { std::size_t{ 1 }, std::size_t{ 4096 }, mebibyte - 1, mebibyte, 3 * mebibyte + 77,
+             4 * mebibyte, 9 * mebibyte, 12 * mebibyte + 1 })
+        files.push_back(makeCold(std::to_string(size), size));
+    prefixHashes(files, prefix);
+    for (const auto& file : files)
+        EXPECT_EQ(pagesInMemory(file), 0U) << file;
+}
+
+TEST_F(FileDigestCacheTest, OddAndLargePrefixesOfColdFilesAreNotInMemoryAfterwards)
+{
+    for (const std::int64_t bytes : { std::int64_t{ 1 }, std::int64_t{ 5000 }, std::int64_t{ 30'000'000 } }) {
+        const auto file = makeCold("file", 20 * mebibyte);
+        EXPECT_TRUE(prefixHash(file, bytes));
+        EXPECT_EQ(pagesInMemory(file), 0U) << bytes;
+    }
+}
+
+TEST_F(FileDigestCacheTest, FileThatWasInMemoryStays)
+{
+    const auto file = makeCold("file", 6 * mebibyte);
+    const auto content = readFile(file);
+    const auto before = pagesInMemory(file);
+    EXPECT_EQ(before, pagesOf(6 * mebibyte));
+    EXPECT_TRUE(prefixHash(file, prefix));
+    EXPECT_EQ(pagesInMemory(file), before);
+}
+
+TEST_F(FileDigestCacheTest, PartThatWasInMemoryStaysAndTheRestDoesNot)
+{
+    const auto file = makeCold("file", 4 * mebibyte);
+    readInto(file, mebibyte, mebibyte / 2);
+    readInto(file, 3 * mebibyte, mebibyte / 4);
+    const auto before = pagesInMemory(file);
+    EXPECT_EQ(before, pagesOf(mebibyte / 2) + pagesOf(mebibyte / 4));
+    EXPECT_TRUE(prefixHash(file, prefix));
+    EXPECT_EQ(pagesInMemory(file), before);
+}
+
+TEST_F(FileDigestCacheTest, UnsavedBytesAreLeftAlone)
+{
+    const auto content = std::string(2 * mebibyte, 'u');
+    const auto file = make("unsaved", content);
+    const auto before = pagesInMemory(file);
+    EXPECT_TRUE(prefixHash(file, prefix));
+    EXPECT_EQ(pagesInMemory(file), before);
+    EXPECT_TRUE(readFile(file) == content);
+}
+
+TEST_F(FileDigestCacheTest, ColdFileOfManyNamesIsNotInMemoryAfterwards)
+{
+    std::vector files{ makeCold("a", 2 * mebibyte) };
+    for (const char* name : { "b", "c", "d" }) {
+        std::filesystem::create_hard_link(files[0], folder / name);
+        files.push_back(folder / name);
+    }
+    const auto hashes = prefixHashes(files, prefix);
+    EXPECT_EQ(hashes, std::vector(4, hashes[0]));
+    EXPECT_EQ(pagesInMemory(files[0]), 0U);
+}
+
+TEST_F(FileDigestCacheTest, ScanThatIsGivenUpLeavesNothingInMemory)
+{
+    std::vector<std::filesystem::path> files;
+    for (int i = 0; i < 6; ++i)
+        files.push_back(makeCold(std::to_string(i), mebibyte));
+    {
+        const auto pathAt = [&](std::size_t index) -> const std::filesystem::path& { return files[index]; };
+        FileDigest digest(files.size(), pathAt, prefix);
+        EXPECT_TRUE(digest.nextPrefixHash());
+    }
+    // Later ones may be on their way from the disk still: nobody waits for them to throw them away.
+    EXPECT_EQ(pagesInMemory(files[0]), 0U);
+}
+
+} // namespace Korvane
