@@ -21,6 +21,7 @@
 
 #include "App/KorvaneApp.h"
 #include "App/TerminationSignals.h"
+#include "Platform/CloudFiles.h"
 #include "Platform/Environment.h"
 #include "Platform/Host.h"
 #include "UI/Appearance.h"
@@ -31,6 +32,7 @@
 
 int main(int argc, char* argv[])
 {
+    Korvane::leaveCloudFilesInTheCloud();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Korvane"));
     QApplication::setApplicationDisplayName(QStringLiteral("Korvane"));

@@ -4,7 +4,7 @@
 #
 # Runs Korvane and other tools on the same trees, in turn, in one run, and prints medians and ratios.
 #
-#   Benchmarks/compare.sh [--rounds N] [--files N] [--folders N] [--work DIRECTORY] [--build DIRECTORY] [JOB...]
+#   Benchmarks/compare.sh [--rounds N] [--files N] [--folders N] [--candidates N] [--work DIRECTORY] [--build DIRECTORY] [JOB...]
 #
 # Each file in Benchmarks/compare/ adds jobs: a function job_NAME and the line: JOBS+=(NAME). Inside a job:
 #   begin TITLE                        a new table; the first contestant added is what the others are divided by
@@ -15,7 +15,7 @@
 set -euo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-rounds=7 files=500000 folders=40000 work=${TMPDIR:-/tmp}/korvane-compare build=$here/../build/bench
+rounds=7 files=500000 folders=40000 candidates=20000 work=${TMPDIR:-/tmp}/korvane-compare build=$here/../build/bench
 JOBS=() wanted=()
 
 while (($#)); do
@@ -23,6 +23,7 @@ while (($#)); do
         --rounds) rounds=$2; shift 2 ;;
         --files) files=$2; shift 2 ;;
         --folders) folders=$2; shift 2 ;;
+        --candidates) candidates=$2; shift 2 ;;
         --work) work=$2; shift 2 ;;
         --build) build=$2; shift 2 ;;
         -h | --help) sed -n '5,16s/^# \{0,1\}//p' "${BASH_SOURCE[0]}"; exit 0 ;;

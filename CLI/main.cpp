@@ -8,6 +8,7 @@
 #include "CLI/Interruption.h"
 #include "CLI/Program.h"
 #include "CLI/StandardStreams.h"
+#include "Platform/CloudFiles.h"
 
 #include <clocale>
 #include <exception>
@@ -26,6 +27,7 @@ Korvane::Host hostOfThisMachine()
 int main(int argumentCount, char** arguments)
 {
     Korvane::StandardStreams::secure();
+    Korvane::leaveCloudFilesInTheCloud();
     std::setlocale(LC_ALL, "");
     try {
         const Korvane::Interruption interruption;

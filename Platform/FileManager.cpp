@@ -11,6 +11,7 @@
 #include "Platform/Files/ProtectedPlaces.h"
 #include "Platform/Files/Removal.h"
 #include "Platform/Files/Trash.h"
+#include "Platform/UserActionScope.h"
 
 #include <algorithm>
 #include <utility>
@@ -49,6 +50,7 @@ public:
 
     void removeItem(const std::filesystem::path& path) override
     {
+        const UserActionScope action;
         const ItemPlace item = findRemovable(path);
         if (const auto failure = removeForGood(item))
             throw FileError(*failure);
@@ -56,11 +58,13 @@ public:
 
     std::filesystem::path trashItem(const std::filesystem::path& path) override
     {
+        const UserActionScope action;
         return moveToHostTrash(findRemovable(path), m_environment);
     }
 
     void emptyTrash(const std::filesystem::path& trash) override
     {
+        const UserActionScope action;
         const auto others = hostTrashDirectories(m_environment);
         ProtectedPlaces protectedPlaces(m_environment.home);
         if (trash == m_environment.home / ".Trash")

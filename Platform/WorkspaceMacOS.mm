@@ -3,6 +3,8 @@
 
 #include "Platform/Workspace.h"
 
+#include "Platform/UserActionScope.h"
+
 #import <AppKit/AppKit.h>
 
 namespace Korvane {
@@ -27,6 +29,7 @@ public:
 
     bool open(const std::string& url) const override
     {
+        const UserActionScope action;
         @autoreleasepool {
             NSString* text = [NSString stringWithUTF8String:url.c_str()];
             NSURL* address = text != nil ? [NSURL URLWithString:text] : nil;
@@ -36,6 +39,7 @@ public:
 
     bool showInFileManager(const std::filesystem::path& path) const override
     {
+        const UserActionScope action;
         @autoreleasepool {
             if (!path.is_absolute())
                 return false;

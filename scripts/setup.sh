@@ -27,7 +27,7 @@ debian_test_packages=(
     libglib2.0-bin gvfs trash-cli
     desktop-file-utils appstream dpkg-dev
 )
-debian_bench_packages=(libbenchmark-dev strace)
+debian_bench_packages=(libbenchmark-dev strace rdfind rmlint fdupes jdupes)
 
 fedora_packages=(
     gcc-c++ cmake ninja-build pkgconf-pkg-config file
@@ -41,7 +41,7 @@ fedora_test_packages=(
     glib2 gvfs trash-cli
     desktop-file-utils appstream
 )
-fedora_bench_packages=(google-benchmark-devel strace)
+fedora_bench_packages=(google-benchmark-devel strace rdfind rmlint fdupes jdupes)
 
 arch_packages=(
     gcc cmake ninja pkgconf file
@@ -54,11 +54,11 @@ arch_test_packages=(
     glib2 gvfs trash-cli
     desktop-file-utils appstream
 )
-arch_bench_packages=(benchmark strace)
+arch_bench_packages=(benchmark strace rdfind rmlint fdupes jdupes)
 
 brew_packages=(cmake ninja pkgconf qt icu4c openssl@3 python3)
 brew_test_packages=(googletest)
-brew_bench_packages=(google-benchmark)
+brew_bench_packages=(google-benchmark rdfind rmlint fdupes jdupes)
 
 say() { printf '%s\n' "setup: $*" >&2; }
 fail() { say "$*"; exit 1; }

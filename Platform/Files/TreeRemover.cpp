@@ -5,6 +5,7 @@
 
 #include "Platform/Files/Retry.h"
 #include "Platform/Files/ThreadWaits.h"
+#include "Platform/UserActionScope.h"
 
 #include <algorithm>
 #include <fcntl.h>
@@ -58,6 +59,7 @@ std::optional<FileError> TreeRemover::run()
 
 void TreeRemover::work(std::size_t number)
 {
+    const UserActionScope action;
     try {
         Worker worker;
         worker.number = number;
