@@ -25,8 +25,7 @@ made_duplicates() {
 count_blocks="awk 'NF { ++files; inside = 1 } !NF { sets += inside; inside = 0 } END { print sets + inside, files }'"
 
 duplicates_contestants() { # PATH
-    local cli=$build/CLI/korvane-cli
-    mkdir -p "$work/empty"
+    local cli=$build/bin/korvane-cli
     contestant "bare loop" - "$tools/bench-bare-digest" "$1.list"
     contestant korvane "python3 -c 'import json, sys
 items = json.load(sys.stdin)[\"items\"]
