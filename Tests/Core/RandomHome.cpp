@@ -16,10 +16,11 @@ using namespace std::chrono_literals;
 
 std::string RandomHome::randomName()
 {
-    static const std::array<std::string, 24> names{ "a", "b", "c", "Documents", "Library", "Caches", "Logs",
-        "Developer", "Xcode", "DerivedData", "node_modules", "target", "vendor", ".hidden", ".git", ".Trash", ".cache",
-        "Editor.app", "Photos.photoslibrary", "bad\xff", "com.apple.thing", "org.example.Player", "with space",
-        "\xC3\xA9t\xC3\xA9" };
+    static const std::array<std::string, 40> names{ "a", "b", "c", "Documents", "Documents", "Library", "Library",
+        "Caches", "Logs", "Developer", "Xcode", "DerivedData", "node_modules", "target", "vendor", "Pods", "Carthage",
+        "venv", "bower_components", "__pycache__", ".venv", ".git", ".build", ".gradle", ".terraform", ".m2",
+        "Node_Modules", "library", ".hidden", ".Trash", ".cache", "Editor.app", "TOOL.APP", "Photos.photoslibrary",
+        "x.bundle", "bad\xff", "com.apple.thing", "org.example.Player", "with space", "\xC3\xA9t\xC3\xA9" };
     return names[below(names.size())];
 }
 
@@ -36,12 +37,16 @@ std::filesystem::path RandomHome::randomFolder(const std::filesystem::path& fold
 void RandomHome::makeFile(const std::filesystem::path& path)
 {
     // Few sizes and few contents, some alike in the first bytes only, so that sets come about.
-    static const std::array<std::size_t, 7> sizes{ 0, 90, 100, 3000, 3000, 5000, 20'000 };
+    static const std::array<std::size_t, 8> sizes{ 0, 90, 100, 3000, 3000, 4097, 5000, 20'000 };
     const auto size = sizes[below(sizes.size())];
     std::string content(size, static_cast<char>('a' + below(2)));
     if (size > 1500 && below(2) == 0)
         content[1500] = 'z';
     writeFile(path, content);
+    if (below(8) == 0)
+        std::filesystem::resize_file(path, 50'000); // A hole at the end.
+    else if (below(8) == 0)
+        writeAllocatedFile(path, 12'288);
     setModified(path, std::chrono::system_clock::time_point(24h * 365 * 40) + 1h * below(4));
     m_lastFile = path;
 }
