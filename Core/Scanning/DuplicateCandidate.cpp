@@ -4,9 +4,37 @@
 #include "Core/Scanning/DuplicateCandidate.h"
 
 #include <algorithm>
+#include <string_view>
+#include <unordered_set>
 #include <utility>
 
 namespace Korvane {
+
+namespace {
+
+using Candidates = std::vector<DuplicateCandidate>;
+
+/// Leaves each path in a range once, where it comes first; gives the end of what is left.
+Candidates::iterator removeRepeatedPaths(Candidates::iterator begin, Candidates::iterator end)
+{
+    // Marked first and moved afterwards: a path that is moved takes its text with it.
+    std::unordered_set<std::string_view> known;
+    std::vector<bool> isRepeated;
+    for (auto candidate = begin; candidate != end; ++candidate)
+        isRepeated.push_back(!known.insert(candidate->url.native()).second);
+    known.clear();
+    auto kept = begin;
+    for (auto candidate = begin; candidate != end; ++candidate) {
+        if (isRepeated[static_cast<std::size_t>(candidate - begin)])
+            continue;
+        if (kept != candidate)
+            *kept = std::move(*candidate);
+        ++kept;
+    }
+    return kept;
+}
+
+} // namespace
 
 DuplicateCandidate::DuplicateCandidate(
     std::filesystem::path fileUrl, std::int64_t fileSize, std::optional<Timestamp> modificationDate)
@@ -14,6 +42,21 @@ DuplicateCandidate::DuplicateCandidate(
     , size(fileSize)
     , modified(modificationDate.value_or(Timestamp::min()))
 {
+}
+
+void sortBySize(Candidates& candidates)
+{
+    std::stable_sort(candidates.begin(), candidates.end(),
+        [](const DuplicateCandidate& left, const DuplicateCandidate& right) { return left.size > right.size; });
+    auto kept = candidates.begin();
+    for (auto begin = candidates.begin(); begin != candidates.end();) {
+        const auto end = std::find_if(begin, candidates.end(),
+            [size = begin->size](const DuplicateCandidate& file) { return file.size != size; });
+        const auto endOfOnce = end - begin < 2 ? end : removeRepeatedPaths(begin, end);
+        kept = kept == begin ? endOfOnce : std::move(begin, endOfOnce, kept);
+        begin = end;
+    }
+    candidates.erase(kept, candidates.end());
 }
 
 void sortOldestFirst(std::vector<DuplicateCandidate>& candidates)

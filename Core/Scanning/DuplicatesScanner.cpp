@@ -40,8 +40,7 @@ std::vector<Candidate> candidates(const DuplicatesScanner& scanner, const std::f
         if (values.fileSize && *values.fileSize >= scanner.minimumFileSize)
             found.emplace_back(file->path(), *values.fileSize, values.contentModificationDate);
     }
-    std::stable_sort(found.begin(), found.end(),
-        [](const Candidate& left, const Candidate& right) { return left.size > right.size; });
+    sortBySize(found);
     return found;
 }
 

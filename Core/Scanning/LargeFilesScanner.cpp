@@ -8,6 +8,8 @@
 #include "Platform/DisplayText.h"
 
 #include <algorithm>
+#include <string>
+#include <unordered_set>
 #include <utility>
 
 namespace Korvane {
@@ -37,6 +39,8 @@ std::vector<ScanItem> LargeFilesScanner::scan(
 {
     const auto home = host.files->homeDirectoryForCurrentUser();
     std::vector<ScanItem> items;
+    // A folder that changes while it is read may list a file twice.
+    std::unordered_set<std::string> known;
     ScanProgress found;
     const auto atMark = [&](const DirectoryEntry& entry) {
         found.currentPath = displayText(entry.parentPath());
@@ -47,7 +51,10 @@ std::vector<ScanItem> LargeFilesScanner::scan(
         const auto size = file->values().totalFileAllocatedSize;
         if (!size || *size < thresholdBytes)
             continue;
-        items.emplace_back(file->path(), displayText(file->name()), category, *size, false);
+        auto path = file->path();
+        if (!known.insert(path.native()).second)
+            continue;
+        items.emplace_back(std::move(path), displayText(file->name()), category, *size, false);
         found.itemsFound = checkedAdd(found.itemsFound, 1);
         found.bytesFound = checkedAdd(found.bytesFound, *size);
         progress(found);

@@ -10,6 +10,7 @@
 #include <climits>
 #include <fcntl.h>
 #include <string_view>
+#include <unordered_set>
 
 namespace Korvane {
 namespace {
@@ -41,12 +42,15 @@ std::vector<std::filesystem::path> childrenOf(const std::filesystem::path& folde
         throw FileError(folder, std::error_code(error, std::system_category()));
     OpenFolder open(std::move(opened));
     EntryBatch batch;
+    // A folder that changes while it is read may list a name twice.
+    std::unordered_set<std::string> known;
     std::vector<std::filesystem::path> children;
     do {
         if ((error = open.read(batch)) != 0)
             throw FileError(folder, std::error_code(error, std::system_category()));
         for (const EntryBatch::Entry& entry : batch.entries) {
-            if (hidden == HiddenFiles::Included || !isHidden(open.descriptor(), entry.name))
+            const bool isWanted = hidden == HiddenFiles::Included || !isHidden(open.descriptor(), entry.name);
+            if (isWanted && known.insert(entry.name).second)
                 children.push_back(folder / entry.name);
         }
     } while (!batch.entries.empty());
