@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <string>
+#include <tuple>
 #include <utility>
 
 namespace Korvane {
@@ -17,15 +19,42 @@ namespace {
 
 using Items = std::vector<ScanItem>::const_iterator;
 
-/// The paths of a set that lead to one file, and how many names that file has.
+/// A name where it stands: the volume and number of its folder, and its last component.
+using Name = std::tuple<std::uint64_t, std::uint64_t, std::string>;
+
+/// The paths of a set that lead to one file, by the name that each of them is, and how many names that file has.
 struct SameFile {
-    std::vector<Uuid> items;
-    std::uint64_t linkCount;
+    std::map<Name, std::vector<Uuid>> itemsByName;
+    std::size_t itemCount = 0;
+    std::uint64_t linkCount = 0;
 };
+
+std::optional<Name> nameOf(const std::filesystem::path& path)
+{
+    // With a dot behind it, because the folder that a scan began at may be reached by a link.
+    const auto folder = identityOfItem(path.parent_path() / ".");
+    if (!folder)
+        return std::nullopt;
+    return Name(folder->volume, folder->number, path.filename().native());
+}
 
 Items endOfSet(Items begin, Items end)
 {
     return std::find_if(begin + 1, end, [](const ScanItem& item) { return !item.selectableByDefault; });
+}
+
+void addFile(const SameFile& file, std::size_t sizeOfSet, SharedStorageOfItems& found)
+{
+    // More places than the file has names: it is itself mounted somewhere, and some of the places are one name.
+    const bool isMountedItself = file.itemsByName.size() > file.linkCount;
+    const bool isWholeSet = file.itemCount > 1 && file.itemCount == sizeOfSet;
+    for (const auto& [name, items] : file.itemsByName) {
+        const bool isReachedTwice = items.size() > 1 || isMountedItself;
+        if (!isReachedTwice && !isWholeSet)
+            continue;
+        for (const auto& id : items)
+            found.emplace(id, isReachedTwice ? SharedStorage::OneName : SharedStorage::OneFile);
+    }
 }
 
 void addSet(Items begin, Items end, SharedStorageOfItems& found)
@@ -33,23 +62,16 @@ void addSet(Items begin, Items end, SharedStorageOfItems& found)
     std::map<std::pair<std::uint64_t, std::uint64_t>, SameFile> files;
     for (auto item = begin; item != end; ++item) {
         const auto identity = identityOfItem(item->url);
-        if (!identity)
+        const auto name = identity ? nameOf(item->url) : std::nullopt;
+        if (!name)
             continue;
         auto& file = files[{ identity->volume, identity->number }];
-        file.items.push_back(item->id);
+        file.itemsByName[*name].push_back(item->id);
+        ++file.itemCount;
         file.linkCount = identity->linkCount;
     }
-    for (const auto& [number, file] : files) {
-        // More paths than names: some of the paths are one name, reached twice.
-        if (file.items.size() > file.linkCount) {
-            for (const auto& id : file.items)
-                found.emplace(id, SharedStorage::OneName);
-        } else if (file.items.size() > 1
-            && std::distance(begin, end) == static_cast<std::ptrdiff_t>(file.items.size())) {
-            for (const auto& id : file.items)
-                found.emplace(id, SharedStorage::OneFile);
-        }
-    }
+    for (const auto& [number, file] : files)
+        addFile(file, static_cast<std::size_t>(std::distance(begin, end)), found);
 }
 
 } // namespace

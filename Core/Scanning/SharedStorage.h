@@ -23,7 +23,7 @@ using SharedStorageOfItems = std::unordered_map<Uuid, SharedStorage>;
 /// Looks at the sets that a scan for duplicates has found, each of which begins with its only item that is not
 /// selectable by default.
 ///
-/// Asks the file system once for each item; one that is gone by now shares nothing. Off the main thread. Throws
+/// Asks the file system for each item and its folder; one that is gone by now shares nothing. Off the main thread. Throws
 /// CancellationError when cancelled.
 SharedStorageOfItems sharedStorageInSets(const std::vector<ScanItem>& items, const Cancellation& cancellation);
 

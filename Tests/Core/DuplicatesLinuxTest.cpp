@@ -7,6 +7,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <numeric>
+#include <set>
 #include <sys/inotify.h>
 #include <unistd.h>
 
@@ -15,7 +18,34 @@ namespace Korvane {
 namespace {
 
 /// What only this kernel tells about how duplicates are looked for.
-class DuplicatesLinuxTest : public DuplicatesFixture { };
+class DuplicatesLinuxTest : public DuplicatesFixture {
+protected:
+    void mountFolder(const char* name) const
+    {
+        std::filesystem::create_directories(home() / "shown");
+        mountBound(home() / name, home() / "shown");
+    }
+
+    /// What is found to be shared beside such mounts: the paths below the home folder in order, each with its kind.
+    std::string sharedBeside(const std::function<void()>& mount)
+    {
+        return runWithPrivateMounts([&] {
+            mount();
+            const DuplicatesScanner scanner(home(), 100, 1000);
+            const auto items = scan(scanner);
+            std::set<std::string> lines;
+            const auto shared = scanner.sharedStorage(items, {});
+            for (const auto& item : items) {
+                const auto entry = shared.find(item.id);
+                const char* kind = entry == shared.end()      ? " none, "
+                    : entry->second == SharedStorage::OneName ? " name, "
+                                                              : " file, ";
+                lines.insert(item.url.lexically_relative(home()).native() + kind);
+            }
+            return std::accumulate(lines.begin(), lines.end(), std::string());
+        });
+    }
+};
 
 } // namespace
 
@@ -41,17 +71,28 @@ TEST_F(DuplicatesLinuxTest, FileReachedByTwoMountsIsASetWhoseRemovalRemovesBoth)
     if (!canMountPrivately())
         GTEST_SKIP() << "this machine lets nobody mount privately";
     make("real/a", small);
-    std::filesystem::create_directory(home() / "shown");
-    const auto answer = runWithPrivateMounts([this] {
-        mountBound(home() / "real", home() / "shown");
-        const DuplicatesScanner scanner(home(), 100, 1000);
-        const auto items = scanSmall();
-        std::string text = std::to_string(items.size());
-        for (const auto& [id, shared] : scanner.sharedStorage(items, {}))
-            text += shared == SharedStorage::OneName ? " name" : " file";
-        return text;
-    });
-    EXPECT_EQ(answer, "2 name name");
+    EXPECT_EQ(sharedBeside([this] { mountFolder("real"); }), "real/a name, shown/a name, ");
+}
+
+TEST_F(DuplicatesLinuxTest, FileReachedByTwoMountsIsKnownWhateverOtherNamesItHas)
+{
+    if (!canMountPrivately())
+        GTEST_SKIP() << "this machine lets nobody mount privately";
+    make("real/a", small);
+    make(".hidden/placeholder", small);
+    std::filesystem::create_hard_link(home() / "real/a", home() / ".hidden/other");
+    EXPECT_EQ(sharedBeside([this] { mountFolder("real"); }), "real/a name, shown/a name, ");
+    std::filesystem::create_hard_link(home() / "real/a", home() / "b");
+    EXPECT_EQ(sharedBeside([this] { mountFolder("real"); }), "b file, real/a name, shown/a name, ");
+}
+
+TEST_F(DuplicatesLinuxTest, FileThatIsMountedItselfIsKnown)
+{
+    if (!canMountPrivately())
+        GTEST_SKIP() << "this machine lets nobody mount privately";
+    make("real/a", small);
+    make("shown", small);
+    EXPECT_EQ(sharedBeside([this] { mountBound(home() / "real/a", home() / "shown"); }), "real/a name, shown name, ");
 }
 
 TEST_F(DuplicatesLinuxTest, OneNameOfAFileReachedByTwoMountsIsTheOriginal)
