@@ -11,9 +11,11 @@
 #include "Platform/Files/ProtectedPlaces.h"
 #include "Platform/Files/Removal.h"
 #include "Platform/Files/Trash.h"
+#include "Platform/Files/TrashRun.h"
 #include "Platform/UserActionScope.h"
 
 #include <algorithm>
+#include <mutex>
 #include <utility>
 
 namespace Korvane {
@@ -59,7 +61,21 @@ public:
     std::filesystem::path trashItem(const std::filesystem::path& path) override
     {
         const UserActionScope action;
-        return moveToHostTrash(findRemovable(path), m_environment);
+        if (const auto run = currentRun()) {
+            const std::unique_lock lock(run->mutex, std::try_to_lock);
+            if (lock)
+                return trashIn(*run, path);
+        }
+        TrashRun run(m_environment.home);
+        return trashIn(run, path);
+    }
+
+    std::shared_ptr<void> beginTrashing() override
+    {
+        auto run = std::make_shared<TrashRun>(m_environment.home);
+        const std::lock_guard lock(m_mutex);
+        m_run = run;
+        return run;
     }
 
     void emptyTrash(const std::filesystem::path& trash) override
@@ -84,7 +100,25 @@ private:
         return item;
     }
 
+    std::filesystem::path trashIn(TrashRun& run, const std::filesystem::path& path) const
+    {
+        ItemPlace item = findItem(path, std::exchange(run.parent, {}));
+        run.protectedPlaces.forget();
+        run.protectedPlaces.check(item);
+        auto place = moveToHostTrash(item, m_environment, run.trash);
+        run.parent = keepParent(item);
+        return place;
+    }
+
+    std::shared_ptr<TrashRun> currentRun()
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_run.lock();
+    }
+
     const Environment m_environment;
+    std::mutex m_mutex;
+    std::weak_ptr<TrashRun> m_run; ///< Guarded by m_mutex.
 };
 
 } // namespace

@@ -49,6 +49,10 @@ public:
     /// On failure the item is where it was. Refuses what removeItem refuses.
     virtual std::filesystem::path trashItem(const std::filesystem::path& path) = 0;
 
+    /// Begins a run of moves to the Trash: until what is returned is gone, folders that its items share stay open in
+    /// place of being opened for each. Each move does and refuses what it does without. May be null.
+    virtual std::shared_ptr<void> beginTrashing() { return nullptr; }
+
     /// Deletes for good what lies in one of the Trash folders; the folder itself stays.
     ///
     /// Stops at the first entry that cannot be deleted, with that entry's error; what was deleted stays deleted.

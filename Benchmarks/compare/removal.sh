@@ -35,6 +35,7 @@ job_remove_ext4() {
     mount -o loop "$image" "$place"
     begin "Remove $removal_files files in $removal_folders folders, ext4 on a device in memory"
     before="rm -rf $place/tree && \$tools/bench-make-tree $place/tree $removal_files $removal_folders 40 && sync -f $place"
+    before+=" && find $place/tree -size +0 >/dev/null"
     remove_contestants "$place/tree"
     finish
     umount "$place"
@@ -46,6 +47,7 @@ job_remove_disk() {
     place=$(mktemp -d "$work/remove.XXXXXX")
     begin "Remove $removal_files files in $removal_folders folders, on disk, warm"
     before="rm -rf $place/tree && \$tools/bench-make-tree $place/tree $removal_files $removal_folders 40 && sync -f $place"
+    before+=" && find $place/tree -size +0 >/dev/null"
     remove_contestants "$place/tree"
     finish
     rm -rf "$place"
@@ -61,9 +63,10 @@ job_remove_flat() {
     rm -rf "$place"
 }
 
-# Each gets a home folder with files to trash; the desktop's tool finds its Trash by HOME.
+# Each gets a home folder with files to trash, and is one process; the desktop's tool finds its Trash by HOME.
 trash_contestants() { # PLACE
-    has gio && contestant "gio trash" - env HOME="$1/home" XDG_DATA_HOME="$1/home/.local/share" bash -c "gio trash $1/home/items/*"
+    has gio && contestant "gio trash" - env HOME="$1/home" XDG_DATA_HOME="$1/home/.local/share" \
+        xargs -0 -s 1900000 -a "$1/list" gio trash
     contestant korvane - "$tools/bench-trash" "$1/home" "$1/home/items"
     contestant "bare loop, synced" - "$tools/bench-bare-trash" "$1/home" "$1/home/items" sync
     contestant "bare loop" - "$tools/bench-bare-trash" "$1/home" "$1/home/items"
@@ -72,7 +75,8 @@ trash_contestants() { # PLACE
 compare_trash() { # TITLE PLACE
     begin "$1"
     before="rm -rf $2/home && mkdir -p $2/home && \$tools/bench-make-tree $2/home/items $trash_items 1 1"
-    before+=" && mv $2/home/items/Library/* $2/home/items && rmdir $2/home/items/Library && sync -f $2"
+    before+=" && mv $2/home/items/Library/* $2/home/items && rmdir $2/home/items/Library"
+    before+=" && find $2/home/items -mindepth 1 -print0 >$2/list && sync -f $2"
     trash_contestants "$2"
     finish
     rm -rf "$2"

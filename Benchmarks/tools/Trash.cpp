@@ -18,6 +18,7 @@ int main(int count, char** arguments)
     environment.home = arguments[1];
     const auto files = Korvane::makeFileManager(environment);
     try {
+        const auto run = files->beginTrashing();
         for (const auto& path : files->contentsOfDirectory(arguments[2]))
             files->trashItem(path);
     } catch (const Korvane::FileError& error) {

@@ -97,6 +97,7 @@ Cleaner::Action Cleaner::action(const std::filesystem::path& url, bool moveToTra
 Cleaner::Result Cleaner::clean(const std::vector<ScanItem>& items, bool moveToTrash, FileManager& files)
 {
     const TrashFolders folders(files);
+    const auto run = moveToTrash ? files.beginTrashing() : nullptr;
     Result result;
     for (const auto& item : items) {
         try {

@@ -64,7 +64,7 @@ std::vector<std::string> FolderContents::names() const
 void FolderContents::removeForGood(const std::string& name, ProtectedPlaces& protectedPlaces, Vanished vanished) const
 {
     ItemPlace item;
-    item.path = m_path / name;
+    item.path = (m_path / name).native();
     item.name = name;
     item.parentStatus = m_status;
     int error = openForTraversal(m_folder.get(), ".", Links::NotFollowed, item.parent);

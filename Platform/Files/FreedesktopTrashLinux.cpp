@@ -102,11 +102,58 @@ void openTop(const ItemPlace& item, FileDescriptor& top)
         failAt(item, error, item.path);
 }
 
+bool areOnOneMount(const EntryStatus& left, const EntryStatus& right)
+{
+    return left.identity.device == right.identity.device && left.mount == right.mount;
+}
+
 bool isOnVolumeOf(const ItemPlace& item, const FileDescriptor& folder)
 {
     EntryStatus status;
-    return readStatus(folder.get(), "", Links::NotFollowed, status) == 0
-        && status.identity.device == item.parentStatus.identity.device && status.mount == item.parentStatus.mount;
+    return readStatus(folder.get(), "", Links::NotFollowed, status) == 0 && areOnOneMount(status, item.parentStatus);
+}
+
+/// Fills in by what its folders are known again; false for a Trash put together from several mounts.
+bool rememberFolders(FreedesktopTrash& trash)
+{
+    EntryStatus status;
+    return readStatus(trash.folder.get(), "", Links::NotFollowed, status) == 0
+        && readStatus(trash.files.get(), "", Links::NotFollowed, trash.filesStatus) == 0
+        && readStatus(trash.info.get(), "", Links::NotFollowed, trash.infoStatus) == 0
+        && areOnOneMount(status, trash.filesStatus) && areOnOneMount(status, trash.infoStatus);
+}
+
+/// Whether opening this Trash again would open the very folders that are open: "files" by its path, and "info" beside
+/// it.
+bool isStillThere(const FreedesktopTrash& trash)
+{
+    const auto isSame = [](int folder, const std::string& name, const EntryStatus& known) {
+        EntryStatus status;
+        return readStatus(folder, name.c_str(), Links::NotFollowed, status) == 0 && status.identity == known.identity
+            && status.mount == known.mount;
+    };
+    return isSame(AT_FDCWD, trash.path.native() + "/files", trash.filesStatus)
+        && isSame(trash.files.get(), "../info", trash.infoStatus);
+}
+
+std::shared_ptr<FreedesktopTrash> openHomeTrashAnew(const ItemPlace& item, const Environment& environment)
+{
+    auto trash = std::make_shared<FreedesktopTrash>();
+    trash->path = environment.dataHome() / "Trash";
+    std::vector<std::string> missing;
+    int error = openExisting(trash->path, trash->folder, missing);
+    if (error != 0 || !isOnVolumeOf(item, trash->folder))
+        return nullptr;
+    refuseToHoldItself(item, trash->folder);
+    for (; error == 0 && !missing.empty(); missing.pop_back()) {
+        FileDescriptor next;
+        error = openOrMake(trash->folder.get(), missing.back().c_str(), next);
+        trash->folder = std::move(next);
+    }
+    if (error != 0)
+        failAt(item, error, trash->path);
+    openParts(item, *trash);
+    return trash;
 }
 
 bool isOwn(const FileDescriptor& folder)
@@ -128,24 +175,23 @@ bool openSharedTrash(const FileDescriptor& top, const std::string& user, FileDes
 
 } // namespace
 
-std::optional<FreedesktopTrash> openHomeTrash(const ItemPlace& item, const Environment& environment)
+std::shared_ptr<FreedesktopTrash> openHomeTrash(
+    const ItemPlace& item, const Environment& environment, std::shared_ptr<FreedesktopTrash>& kept)
 {
-    FreedesktopTrash trash;
-    trash.path = environment.dataHome() / "Trash";
-    std::vector<std::string> missing;
-    int error = openExisting(trash.path, trash.folder, missing);
-    if (error != 0 || !isOnVolumeOf(item, trash.folder))
-        return std::nullopt;
-    refuseToHoldItself(item, trash.folder);
-    for (; error == 0 && !missing.empty(); missing.pop_back()) {
-        FileDescriptor next;
-        error = openOrMake(trash.folder.get(), missing.back().c_str(), next);
-        trash.folder = std::move(next);
+    std::shared_ptr<FreedesktopTrash> trash;
+    if (kept && isStillThere(*kept)) {
+        if (!areOnOneMount(kept->filesStatus, item.parentStatus))
+            return nullptr;
+        refuseToHoldItself(item, kept->files);
+        trash = kept;
+    } else {
+        kept = nullptr;
+        trash = openHomeTrashAnew(item, environment);
+        if (trash && rememberFolders(*trash))
+            kept = trash;
     }
-    if (error != 0)
-        failAt(item, error, trash.path);
-    openParts(item, trash);
-    trash.recordedPath = originalPath(item);
+    if (trash)
+        trash->recordedPath = originalPath(item);
     return trash;
 }
 

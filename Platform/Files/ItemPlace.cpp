@@ -7,7 +7,9 @@
 #include "Platform/FileError.h"
 #include "Platform/Files/OpenFolder.h"
 
+#include <fcntl.h>
 #include <string_view>
+#include <utility>
 
 namespace Korvane {
 namespace {
@@ -17,9 +19,38 @@ namespace {
     throw FileError(path, std::make_error_code(std::errc::invalid_argument), reason);
 }
 
+/// The folder at the end of the path, with its status; the kept one when it is the same.
+int openParent(const std::string& path, KeptFolder kept, ItemPlace& item)
+{
+    if (kept.path == path) {
+        if (readStatus(AT_FDCWD, path.c_str(), Links::Followed, item.parentStatus) == 0
+            && kept.status.identity == item.parentStatus.identity && kept.status.mount == item.parentStatus.mount) {
+            item.parent = std::move(kept.folder);
+            return 0;
+        }
+    }
+    const int error = openForTraversal(path, item.parent);
+    return error != 0 ? error : readStatus(item.parent.get(), "", Links::NotFollowed, item.parentStatus);
+}
+
 } // namespace
 
-std::filesystem::path itemPath(const std::filesystem::path& path)
+bool isPlainPath(std::string_view path)
+{
+    if (!path.starts_with('/'))
+        return false;
+    for (std::size_t start = 1;;) {
+        const std::size_t end = path.find('/', start);
+        const std::string_view part = path.substr(start, end == std::string_view::npos ? end : end - start);
+        if (part.empty() || part == "." || part == "..")
+            return false;
+        if (end == std::string_view::npos)
+            return true;
+        start = end + 1;
+    }
+}
+
+std::string itemPath(const std::filesystem::path& path)
 {
     std::string_view text = path.native();
     if (text.empty())
@@ -35,24 +66,26 @@ std::filesystem::path itemPath(const std::filesystem::path& path)
     const std::string_view name = text.substr(text.rfind('/') + 1);
     if (name == "." || name == "..")
         refuse(path, "“" + displayText(path) + "” does not name an item but a way to one.");
-    return { std::string(text) };
+    return std::string(text);
 }
 
-ItemPlace findItem(const std::filesystem::path& path)
+ItemPlace findItem(const std::filesystem::path& path, KeptFolder kept)
 {
     ItemPlace item;
     item.path = itemPath(path);
-    const std::string& text = item.path.native();
-    const std::size_t slash = text.rfind('/');
-    item.name = text.substr(slash + 1);
-    int error = openForTraversal(std::string_view(text).substr(0, slash + 1), item.parent);
-    if (error == 0)
-        error = readStatus(item.parent.get(), "", Links::NotFollowed, item.parentStatus);
+    const std::size_t slash = item.path.rfind('/');
+    item.name = item.path.substr(slash + 1);
+    int error = openParent(item.path.substr(0, slash + 1), std::move(kept), item);
     if (error == 0)
         error = readStatus(item.parent.get(), item.name.c_str(), Links::NotFollowed, item.status);
     if (error != 0)
         throw FileError(path, std::error_code(error, std::system_category()));
     return item;
+}
+
+KeptFolder keepParent(ItemPlace& item)
+{
+    return { item.path.substr(0, item.path.rfind('/') + 1), std::move(item.parent), item.parentStatus };
 }
 
 } // namespace Korvane

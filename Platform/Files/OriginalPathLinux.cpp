@@ -13,9 +13,6 @@
 namespace Korvane {
 namespace {
 
-/// No ".", no "..", no empty part: such a path can be cut anywhere between two parts.
-bool isPlain(const std::filesystem::path& path) { return path.lexically_normal().native() == path.native(); }
-
 [[noreturn]] void failForLength(const ItemPlace& item)
 {
     throw FileError(item.path, std::make_error_code(std::errc::filename_too_long));
@@ -66,8 +63,8 @@ std::filesystem::path pathOfFolder(int folder)
 
 std::string originalPath(const ItemPlace& item)
 {
-    if (isPlain(item.path))
-        return item.path.native();
+    if (isPlainPath(item.path))
+        return item.path;
     const std::filesystem::path parent = pathOfFolder(item.parent.get());
     if (parent.empty())
         failForLength(item);
@@ -77,8 +74,8 @@ std::string originalPath(const ItemPlace& item)
 std::string originalPathBelow(const ItemPlace& item, int top)
 {
     EntryStatus status;
-    if (readStatus(top, "", Links::NotFollowed, status) == 0 && isPlain(item.path)) {
-        const std::string_view below = textBelow(item.path.native(), status);
+    if (readStatus(top, "", Links::NotFollowed, status) == 0 && isPlainPath(item.path)) {
+        const std::string_view below = textBelow(item.path, status);
         if (!below.empty())
             return std::string(below);
     }

@@ -62,7 +62,9 @@ void ProtectedPlaces::addFoldersAbove()
 
 bool ProtectedPlaces::isNamed(const ItemPlace& item) const
 {
-    return std::find(m_names.begin(), m_names.end(), item.path.lexically_normal().native()) != m_names.end();
+    const std::string name
+        = isPlainPath(item.path) ? item.path : std::filesystem::path(item.path).lexically_normal().native();
+    return std::find(m_names.begin(), m_names.end(), name) != m_names.end();
 }
 
 bool ProtectedPlaces::isIdentical(const ItemPlace& item)

@@ -22,6 +22,9 @@ public:
     /// Throws FileError, in a sentence of its own, when the item is one of these places.
     void check(const ItemPlace& item);
 
+    /// Looks up anew what the places are when next asked.
+    void forget() { m_identities.clear(); }
+
 private:
     void addNamedPlaces();
     void addFoldersAbove();

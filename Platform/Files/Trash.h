@@ -8,15 +8,22 @@
 #include "Platform/Files/ProtectedPlaces.h"
 
 #include <filesystem>
+#include <memory>
 #include <vector>
 
 namespace Korvane {
+
+struct FreedesktopTrash;
 
 /// Trash folders that this host keeps besides ".Trash" in the home folder.
 std::vector<std::filesystem::path> hostTrashDirectories(const Environment& environment);
 
 /// Moves the item to the host's Trash and returns where it lies now; throws FileError and leaves it where it was.
-std::filesystem::path moveToHostTrash(const ItemPlace& item, const Environment& environment);
+///
+/// `kept` holds what stays open until the next item, always with the same environment; used only while it is what would
+/// be opened again. Stays empty where the system opens its Trash itself.
+std::filesystem::path moveToHostTrash(
+    const ItemPlace& item, const Environment& environment, std::shared_ptr<FreedesktopTrash>& kept);
 
 /// Empties one of hostTrashDirectories(); throws the first FileError.
 void emptyHostTrash(const std::filesystem::path& trash, ProtectedPlaces& protectedPlaces);

@@ -22,11 +22,15 @@ constexpr unsigned namesInTurn = 32;
 constexpr unsigned randomNames = 64;
 
 /// How long a name may be so that its record's name still fits the file system of `folder`.
-std::size_t longestName(int folder)
+std::size_t longestName(int folder, const std::string& name)
 {
     constexpr std::size_t ending = sizeof ".trashinfo" - 1;
+    constexpr std::size_t everywhere = 64;
+    constexpr std::size_t number = 16; // At most, with its dot.
+    if (name.size() + number + ending <= everywhere)
+        return everywhere - ending;
     const long limit = fpathconf(folder, _PC_NAME_MAX);
-    return (limit > 64 ? static_cast<std::size_t>(limit) : std::size_t{ NAME_MAX }) - ending;
+    return (limit > long{ everywhere } ? static_cast<std::size_t>(limit) : std::size_t{ NAME_MAX }) - ending;
 }
 
 std::string candidate(const std::string& name, unsigned attempt, std::size_t limit)
@@ -72,13 +76,13 @@ int moveAs(const ItemPlace& item, const FreedesktopTrash& trash, TrashRecord& re
 std::filesystem::path moveToTrash(const ItemPlace& item, const FreedesktopTrash& trash)
 {
     const std::string text = trashInfoText(trash.recordedPath, std::time(nullptr));
-    const std::size_t limit = longestName(trash.info.get());
+    const std::size_t limit = longestName(trash.info.get(), item.name);
     int error = EEXIST;
     for (unsigned attempt = 0; error == EEXIST && attempt < namesInTurn + randomNames; ++attempt) {
         TrashRecord record(trash.info.get(), candidate(item.name, attempt, limit));
         error = moveAs(item, trash, record, text);
         if (error == 0)
-            return trash.path / "files" / record.name();
+            return trash.path.native() + "/files/" + record.name();
     }
     throw FileError(item.path, std::error_code(error, std::system_category()));
 }
@@ -88,9 +92,10 @@ std::vector<std::filesystem::path> hostTrashDirectories(const Environment& envir
     return { environment.dataHome() / "Trash" };
 }
 
-std::filesystem::path moveToHostTrash(const ItemPlace& item, const Environment& environment)
+std::filesystem::path moveToHostTrash(
+    const ItemPlace& item, const Environment& environment, std::shared_ptr<FreedesktopTrash>& kept)
 {
-    if (const auto trash = openHomeTrash(item, environment)) {
+    if (const auto trash = openHomeTrash(item, environment, kept)) {
         try {
             return moveToTrash(item, *trash);
         } catch (const FileError& error) {

@@ -33,7 +33,7 @@ NSURL* urlOf(const std::filesystem::path& path, bool isDirectory)
 
 std::vector<std::filesystem::path> hostTrashDirectories(const Environment&) { return {}; }
 
-std::filesystem::path moveToHostTrash(const ItemPlace& item, const Environment&)
+std::filesystem::path moveToHostTrash(const ItemPlace& item, const Environment&, std::shared_ptr<FreedesktopTrash>&)
 {
     @autoreleasepool {
         NSError* error = nil;

@@ -101,7 +101,7 @@ std::filesystem::path TreeRemover::pathOf(const DoomedFolder& folder, const std:
         parts.push_back(&name);
     for (const DoomedFolder* step = &folder; step != &m_container && step->parent != &m_container; step = step->parent)
         parts.push_back(&step->name);
-    std::string text = m_item.path.native();
+    std::string text = m_item.path;
     if (&folder == &m_container)
         return m_item.path;
     for (auto part = parts.rbegin(); part != parts.rend(); ++part)

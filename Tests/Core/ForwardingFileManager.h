@@ -51,6 +51,7 @@ public:
         prepare(path, m_trashed);
         return m_real->trashItem(path);
     }
+    std::shared_ptr<void> beginTrashing() override { return m_real->beginTrashing(); }
     void emptyTrash(const Path& trash) override
     {
         prepare(trash, m_emptied);

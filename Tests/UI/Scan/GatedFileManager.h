@@ -49,6 +49,7 @@ public:
         passGate();
         return m_real->trashItem(path);
     }
+    std::shared_ptr<void> beginTrashing() override { return m_real->beginTrashing(); }
     void emptyTrash(const std::filesystem::path& trash) override
     {
         passGate();
