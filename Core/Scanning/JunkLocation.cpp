@@ -3,7 +3,6 @@
 
 #include "Core/Scanning/JunkLocation.h"
 
-#include "Core/Scanning/PlaceOverlap.h"
 #include "Platform/FileAttributes.h"
 #include "Platform/Host.h"
 
@@ -54,8 +53,7 @@ bool isListedWhole(const JunkLocation& location)
 std::vector<JunkLocation> junkLocations(const Host& host)
 {
     auto locations = fixedLocations(*host.files);
-    PlaceOverlap home;
-    home.add(host.files->homeDirectoryForCurrentUser());
+    const auto ofTheUser = placesOfTheUser(host);
     PlaceOverlap taken;
     taken.add(host.files->homeDirectoryForCurrentUser() / "Library");
     for (const auto& location : locations) {
@@ -65,7 +63,7 @@ std::vector<JunkLocation> junkLocations(const Host& host)
     const auto addOwn = [&](const std::filesystem::path& url, std::string_view category, Expansion expansion) {
         // A place that lies in one that is expanded is left out there, as a child.
         const bool isTaken = expansion == Expansion::EachChild ? taken.isOrLiesInPlace(url) : taken.overlaps(url);
-        if (isTaken || home.isOrContainsPlace(url) || isShared(url))
+        if (isTaken || ofTheUser.isOrContainsPlace(url) || isShared(url))
             return;
         taken.add(url);
         locations.push_back({ url, category, expansion, Provider::Host });
@@ -78,6 +76,16 @@ std::vector<JunkLocation> junkLocations(const Host& host)
                         [](const JunkLocation& location) { return !location.url.is_absolute(); }),
         locations.end());
     return locations;
+}
+
+PlaceOverlap placesOfTheUser(const Host& host)
+{
+    const auto home = host.files->homeDirectoryForCurrentUser();
+    PlaceOverlap places;
+    for (const auto& place :
+        { home, home / ".local/share", home / ".config", host.environment.dataHome(), host.environment.configHome() })
+        places.add(place);
+    return places;
 }
 
 } // namespace Korvane

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Core/Scanning/PlaceOverlap.h"
+
 #include <filesystem>
 #include <string_view>
 #include <vector>
@@ -39,9 +41,14 @@ struct JunkLocation {
 
 /// The six places that every host has, in the order in which they are looked at, then this host's own.
 ///
-/// A place of the host that is or lies in another one, or holds the home folder, is left out: nothing is listed twice.
-/// So is a Trash that holds another place; in a cache directory it is the child that holds one which is not listed.
+/// A place of the host that is or lies in another one is left out: nothing is listed twice. So is one that is or holds
+/// what is the user's own, whatever the environment calls it, and a Trash that holds another place; in a cache
+/// directory it is the child that holds one which is not listed.
 /// A place that is no absolute path is left out: it would lead to wherever the program happens to have been started.
 std::vector<JunkLocation> junkLocations(const Host& host);
+
+/// The home folder, and the folders in which applications keep the user's data and settings: where the environment
+/// names them, and where they lie when it does not.
+PlaceOverlap placesOfTheUser(const Host& host);
 
 } // namespace Korvane

@@ -7,7 +7,6 @@
 #include "Core/Scanning/FileSizeCalculator.h"
 #include "Core/Scanning/JunkLocation.h"
 #include "Core/Scanning/LastPathComponent.h"
-#include "Core/Scanning/PlaceOverlap.h"
 #include "Core/Scanning/SharedTemporaryFolder.h"
 #include "Platform/Checked.h"
 #include "Platform/DisplayText.h"
@@ -91,11 +90,10 @@ private:
         }
     }
 
-    /// The home folder and all places but this one.
+    /// What is the user's own, and all places but this one.
     PlaceOverlap placesBeside(const JunkLocation& location) const
     {
-        PlaceOverlap others;
-        others.add(m_host.files->homeDirectoryForCurrentUser());
+        PlaceOverlap others = placesOfTheUser(m_host);
         for (const auto& other : m_locations) {
             if (&other != &location)
                 others.add(other.url);

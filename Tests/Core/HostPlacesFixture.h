@@ -15,7 +15,11 @@ class HostPlacesFixture : public ScanFixture {
 protected:
     std::vector<ScanItem> scanJunk() { return scan(SystemJunkScanner()); }
 
-    void useEnvironment(const Environment& environment) { host().files = makeFileManager(environment); }
+    void useEnvironment(const Environment& environment)
+    {
+        host().environment = environment;
+        host().files = makeFileManager(environment);
+    }
 
     /// Makes the temporary directory one that all users share.
     void shareTemporaryDirectory() const { chmod(temporary().c_str(), 01777); }
