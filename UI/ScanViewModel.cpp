@@ -151,8 +151,7 @@ void ScanViewModel::clean(bool moveToTrash)
 
 void ScanViewModel::finishClean(Cleaner::Result result)
 {
-    m_failures.setFailures(result.failures);
-    m_result = std::move(result);
+    m_failures.setResult(std::make_shared<const Cleaner::Result>(std::move(result)));
     setPhase(Phase::Cleaned);
 }
 

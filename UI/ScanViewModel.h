@@ -58,14 +58,14 @@ public:
     const std::vector<ScanItem>& items() const { return m_rows.findings().items(); }
     const ScanSelection& selection() const { return m_rows.selection(); }
     /// The outcome of the cleaning while the phase is Cleaned.
-    const Cleaner::Result& result() const { return m_result; }
+    const Cleaner::Result& result() const { return m_failures.result(); }
     std::int64_t totalBytes() const { return m_rows.findings().totalBytes(); }
     std::int64_t selectedBytes() const { return selection().bytes(); }
     bool hasItems() const { return !items().empty(); }
     bool hasSelection() const { return selection().size() > 0; }
     bool allSelectableSelected() const { return hasItems() && selection().size() == items().size(); }
     ScanProgressTexts progressTexts() const { return ScanProgressTexts::of(m_progress); }
-    CleanedTexts cleanedTexts() const { return CleanedTexts::of(m_result); }
+    CleanedTexts cleanedTexts() const { return CleanedTexts::of(result()); }
     QString totalText() const;
     ScanConfirmation confirmation() const { return ScanConfirmation::of(selectedBytes(), movesToTrash()); }
     ScanResultsModel* rows() { return &m_rows; }
@@ -110,7 +110,6 @@ private:
     ScanProgress m_progress;
     ScanResultsModel m_rows;
     ScanItemActions m_actions;
-    Cleaner::Result m_result;
     CleanFailuresModel m_failures;
     Cancellation m_scanTask; ///< Of the running scan.
     quint64 m_generation = 0; ///< Of the run whose results are awaited; those of any other are stale.

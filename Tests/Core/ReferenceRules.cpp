@@ -9,6 +9,7 @@
 #include "Tests/Core/WalkOrder.h"
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 namespace Korvane {
@@ -47,6 +48,15 @@ std::vector<fs::path> filesBelow(const fs::path& folder, const fs::path& library
     return files;
 }
 
+/// Where each path comes in the walk.
+std::map<fs::path, std::size_t> positions(const fs::path& root, const fs::path& library)
+{
+    std::map<fs::path, std::size_t> found;
+    for (const auto& entry : walkOrder(root, library))
+        found.emplace(entry.path, found.size());
+    return found;
+}
+
 void addJunk(
     std::set<ReferenceRow>& rows, const fs::path& url, const std::string& name, const char* category, bool selected)
 {
@@ -73,21 +83,20 @@ void addChildren(
 ReferenceRules::ReferenceRules(fs::path home)
     : m_home(std::move(home))
 {
-    for (const auto& entry : walkOrder(m_home))
-        m_position.emplace(entry.path, m_position.size());
 }
 
 std::vector<ReferenceRow> ReferenceRules::largeFiles(std::int64_t threshold, std::int64_t maxResults) const
 {
+    const auto position = positions(m_home, m_home / "Library");
     std::vector<std::tuple<std::int64_t, std::size_t, fs::path>> found;
     for (const auto& path : filesBelow(m_home, m_home / "Library")) {
         if (allocatedBytes(path) >= threshold)
-            found.emplace_back(-allocatedBytes(path), m_position.at(path), path);
+            found.emplace_back(-allocatedBytes(path), position.at(path), path);
     }
     std::sort(found.begin(), found.end());
     found.resize(std::min(found.size(), static_cast<std::size_t>(maxResults)));
     std::vector<ReferenceRow> rows;
-    for (const auto& [size, position, path] : found)
+    for (const auto& [size, place, path] : found)
         rows.emplace_back(path, shown(path), "Large Files", -size, false);
     return rows;
 }
@@ -96,12 +105,13 @@ std::set<std::vector<ReferenceRow>> ReferenceRules::duplicates(
     const fs::path& root, std::int64_t minimum, std::int64_t prefix) const
 {
     using Member = std::tuple<fs::file_time_type, std::size_t, fs::path>;
+    const auto position = positions(root, m_home / "Library");
     std::map<std::pair<std::int64_t, std::string>, std::vector<Member>> sets;
     for (const auto& path : filesBelow(root, m_home / "Library")) {
         const auto size = static_cast<std::int64_t>(fs::file_size(path));
         if (size >= minimum)
             sets[{ size, readFile(path).substr(0, static_cast<std::size_t>(prefix)) }].emplace_back(
-                fs::last_write_time(path), m_position.at(path), path);
+                fs::last_write_time(path), position.at(path), path);
     }
     std::set<std::vector<ReferenceRow>> found;
     for (auto& [key, members] : sets) {
@@ -112,7 +122,7 @@ std::set<std::vector<ReferenceRow>> ReferenceRules::duplicates(
         const auto label = kept + " \xE2\x80\x94 " + std::to_string(members.size()) + " copies, "
             + formattedBytes(key.first) + " each";
         std::vector<ReferenceRow> set;
-        for (const auto& [modified, position, path] : members)
+        for (const auto& [modified, place, path] : members)
             set.emplace_back(path, shown(path) + (set.empty() ? " (original)" : ""), label, key.first, !set.empty());
         found.insert(set);
     }

@@ -5,7 +5,6 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <map>
 #include <set>
 #include <string>
 #include <tuple>
@@ -19,7 +18,6 @@ using ReferenceRow = std::tuple<std::filesystem::path, std::string, std::string,
 /// The rules of the scanners a second time, slow and simple over std::filesystem.
 class ReferenceRules {
 public:
-    /// `home` and what is below it, as it is at this moment.
     explicit ReferenceRules(std::filesystem::path home);
 
     /// The largest first; of equal ones the first met in the walk.
@@ -38,7 +36,6 @@ public:
 
 private:
     std::filesystem::path m_home;
-    std::map<std::filesystem::path, std::size_t> m_position; ///< Where each path comes in the walk.
 };
 
 } // namespace Korvane

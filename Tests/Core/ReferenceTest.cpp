@@ -113,6 +113,10 @@ void compareDuplicates(ReferenceHome& home, const ReferenceRules& rules, unsigne
     }
     EXPECT_EQ(home.lastTotals(), totals);
     EXPECT_EQ(setsOf(home.scan(DuplicatesScanner(home.home().native() + "//", minimum, prefix))), sets);
+    const auto link = home.temporary() / "link";
+    fs::create_directory_symlink(home.home(), link);
+    EXPECT_EQ(setsOf(home.scan(DuplicatesScanner(link, minimum, prefix))), rules.duplicates(link, minimum, prefix));
+    fs::remove(link);
     if (const auto below = home.home() / "Documents"; fs::is_directory(fs::symlink_status(below))) {
         EXPECT_EQ(
             setsOf(home.scan(DuplicatesScanner(below, minimum, prefix))), rules.duplicates(below, minimum, prefix));

@@ -4,28 +4,38 @@
 #include "UI/Scan/CleanFailuresModel.h"
 
 #include "Platform/DisplayText.h"
+#include "UI/Background.h"
 
 #include <utility>
 
 namespace Korvane {
 
-void CleanFailuresModel::setFailures(std::vector<Cleaner::Failure> failures)
+CleanFailuresModel::CleanFailuresModel(QObject* parent)
+    : QAbstractListModel(parent)
+    , m_result(std::make_shared<const Cleaner::Result>())
+{
+}
+
+CleanFailuresModel::~CleanFailuresModel() { releaseInBackground(std::move(m_result)); }
+
+void CleanFailuresModel::setResult(std::shared_ptr<const Cleaner::Result> result)
 {
     beginResetModel();
-    m_failures = std::move(failures);
+    m_result.swap(result);
     endResetModel();
+    releaseInBackground(std::move(result));
 }
 
 int CleanFailuresModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_failures.size());
+    return parent.isValid() ? 0 : static_cast<int>(m_result->failures.size());
 }
 
 QVariant CleanFailuresModel::data(const QModelIndex& index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const Cleaner::Failure& failure = m_failures[static_cast<std::size_t>(index.row())];
+    const Cleaner::Failure& failure = m_result->failures[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole:
     case PathRole:

@@ -8,7 +8,7 @@
 #include <QAbstractListModel>
 #include <QtQmlIntegration>
 
-#include <vector>
+#include <memory>
 
 namespace Korvane {
 
@@ -25,16 +25,19 @@ public:
     };
     Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    explicit CleanFailuresModel(QObject* parent = nullptr);
+    ~CleanFailuresModel() override;
 
-    void setFailures(std::vector<Cleaner::Failure> failures);
+    /// Shows the failures of this cleaning, which nobody changes any more.
+    void setResult(std::shared_ptr<const Cleaner::Result> result);
+    const Cleaner::Result& result() const { return *m_result; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
 private:
-    std::vector<Cleaner::Failure> m_failures;
+    std::shared_ptr<const Cleaner::Result> m_result; ///< Shared, because a run may fail for very many items.
 };
 
 } // namespace Korvane
