@@ -37,6 +37,10 @@ public:
     bool hasValues() const noexcept { return m_hasValues; }
     const ResourceValues& values() const noexcept { return m_values; }
 
+    /// How many regular files this entry stands for that the walk's options pass over, all in one folder; it then has
+    /// no name, no path and no values. 0 for an entry that is delivered.
+    std::uint32_t passedOver() const noexcept { return m_passedOver; }
+
     /// The whole path: the walk's root as it was given, and every name below it.
     std::filesystem::path path() const;
     /// The path of the folder that holds this entry.
@@ -50,6 +54,7 @@ private:
     std::string_view m_name;
     const WalkFolder* m_folder = nullptr;
     ResourceValues m_values;
+    std::uint32_t m_passedOver = 0;
     EntryType m_type = EntryType::Unknown;
     bool m_isPackage = false;
     bool m_hasValues = false;

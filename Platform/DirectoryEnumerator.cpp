@@ -91,14 +91,17 @@ void DirectoryEnumerator::Walk::deliver(Level& level)
     const auto& listed = part.entries[level.entry++];
     m_entry.m_name = part.nameOf(listed);
     m_entry.m_folder = part.folder.get();
+    m_entry.m_passedOver = listed.passedOver;
     m_entry.m_type = listed.type;
     m_entry.m_isPackage = listed.isPackage;
     m_entry.m_hasValues = listed.hasValues;
-    if (listed.areValuesSet)
-        m_entry.m_values
-            = { listed.allocatedSize, listed.fileSize, sys_time<nanoseconds>(nanoseconds(listed.modified)) };
-    else
-        m_entry.m_values = {};
+    m_entry.m_values = {};
+    if (listed.isSizeSet)
+        m_entry.m_values.totalFileAllocatedSize = listed.allocatedSize;
+    if (listed.areValuesSet) {
+        m_entry.m_values.fileSize = listed.fileSize;
+        m_entry.m_values.contentModificationDate = sys_time<nanoseconds>(nanoseconds(listed.modified));
+    }
     if (listed.isEntered)
         m_entered = std::move(level.part->subfolders[level.subfolder++]);
 }

@@ -20,6 +20,7 @@ namespace Korvane {
 
 namespace {
 
+using Listing = DescriptorCache::Listing;
 using Folders = std::vector<WalkFolderReference>;
 
 /// How long the caller sleeps at most before it looks whether it was cancelled.
@@ -129,10 +130,7 @@ void TreeSum::readPart(const WalkFolderReference& folder, Folders& own, Director
     }
     const bool isWanted = isLong || own.size() > before;
     const auto keep = isWanted ? DescriptorCache::Keep::Yes : DescriptorCache::Keep::No;
-    if (isLong)
-        m_descriptors.unpin(*folder, keep);
-    else
-        m_descriptors.unpinListed(*folder, keep);
+    m_descriptors.unpin(*folder, isLong ? Listing::GoesOn : Listing::AtEnd, keep);
 }
 
 void TreeSum::addEntries(
@@ -177,15 +175,13 @@ bool TreeSum::takeShared(Folders& own)
     return true;
 }
 
+/// Whether to give folders away: what was given must be gone first, but readers are invited as long as there is any.
 bool TreeSum::isAskedToShare()
 {
-    if (m_sharedCount.load(std::memory_order_relaxed) > 0)
-        return false;
-    if (m_demand.takeInvitation()) {
+    const bool isInvited = m_demand.takeInvitation();
+    if (isInvited)
         ReaderPool::shared().invite(shared_from_this());
-        return true;
-    }
-    return m_demand.hasReaders();
+    return m_sharedCount.load(std::memory_order_relaxed) == 0 && (isInvited || m_demand.hasReaders());
 }
 
 /// Gives the oldest `count` folders of a reader to whoever is idle.

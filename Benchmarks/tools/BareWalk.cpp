@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// bench-bare-walk [--home] PATH...: the yardstick. One thread and only the system calls that a walk cannot do without:
+// bench-bare-walk [--home BYTES] PATH...: the yardstick. One thread and only the system calls that a walk cannot do without:
 // open each folder, getdents, one fstatat for each entry. Prints the allocated bytes of the regular files below each
-// path; with --home it leaves out what a search of a home folder leaves out: hidden names, "Library",
-// "node_modules" and packages.
+// path; with --home only of those that occupy so many, and it leaves out what a search of a home folder leaves out:
+// hidden names, "Library", "node_modules" and packages.
 
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 #include <dirent.h>
@@ -27,6 +28,7 @@ struct ListedEntry {
 };
 
 bool homeRules = false;
+std::int64_t smallest = 0;
 
 bool isLeftOut(const char* name, bool isFolder)
 {
@@ -57,7 +59,7 @@ std::int64_t walk(int parent, const char* path) // NOLINT(misc-no-recursion)
                 || fstatat(folder, entry->name, &status, AT_SYMLINK_NOFOLLOW) != 0)
                 continue;
             if (S_ISREG(status.st_mode))
-                total += std::int64_t{ status.st_blocks } * 512;
+                total += status.st_blocks * 512 >= smallest ? status.st_blocks * 512 : 0;
             else if (S_ISDIR(status.st_mode))
                 total += walk(folder, entry->name);
         }
@@ -71,9 +73,10 @@ std::int64_t walk(int parent, const char* path) // NOLINT(misc-no-recursion)
 int main(int count, char** arguments)
 {
     int first = 1;
-    if (count > 1 && std::strcmp(arguments[1], "--home") == 0) {
+    if (count > 2 && std::strcmp(arguments[1], "--home") == 0) {
         homeRules = true;
-        first = 2;
+        smallest = std::atoll(arguments[2]);
+        first = 3;
     }
     std::int64_t total = 0;
     for (int index = first; index < count; ++index)

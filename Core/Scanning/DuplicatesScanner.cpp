@@ -34,7 +34,9 @@ std::vector<Candidate> candidates(const DuplicatesScanner& scanner, const std::f
 {
     std::vector<Candidate> found;
     const auto atMark = [&](const DirectoryEntry& entry) { progress({ displayText(entry.parentPath()), 0, 0 }); };
-    HomeWalk walk(scanner.root, home, atMark, cancellation);
+    HomeWalk::Files files;
+    files.smallestFileSize = scanner.minimumFileSize;
+    HomeWalk walk(scanner.root, home, files, atMark, cancellation);
     while (const auto* file = walk.nextFile()) {
         const auto& values = file->values();
         if (values.fileSize && *values.fileSize >= scanner.minimumFileSize)

@@ -5,6 +5,7 @@
 
 #include "Core/Scanning/ScanExclusions.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -27,8 +28,8 @@ bool isOrLiesIn(std::string_view path, std::string_view folder)
 
 } // namespace
 
-HomeWalk::HomeWalk(
-    const std::filesystem::path& root, const std::filesystem::path& home, MarkHandler atMark, Cancellation cancellation)
+HomeWalk::HomeWalk(const std::filesystem::path& root, const std::filesystem::path& home, Files files,
+    MarkHandler atMark, Cancellation cancellation)
     : m_library(std::filesystem::path(withoutTrailingSlashes(home.native())) / "Library")
     , m_atMark(std::move(atMark))
     , m_cancellation(std::move(cancellation))
@@ -41,7 +42,9 @@ HomeWalk::HomeWalk(
     EnumerationOptions options;
     options.hiddenFiles = HiddenFiles::Skipped;
     options.packageDescendants = PackageDescendants::Skipped;
-    options.values = PrefetchedValues::FileValues;
+    options.values = files.values;
+    options.smallestAllocatedSize = files.smallestAllocatedSize;
+    options.smallestFileSize = files.smallestFileSize;
     options.namesNeverEntered = &ScanExclusions::dependencyDirNames();
     options.pathsNeverEntered = { m_library };
     m_enumerator.emplace(rootText, std::move(options), m_cancellation);
@@ -52,17 +55,26 @@ const DirectoryEntry* HomeWalk::nextFile()
     if (!m_enumerator)
         return nullptr;
     while (const auto* entry = m_enumerator->next()) {
-        if (m_visited % entriesPerMark == 0) {
-            m_cancellation.throwIfCancelled();
-            m_atMark(*entry);
-        }
-        ++m_visited;
+        visit(*entry);
+        if (entry->passedOver() > 0)
+            continue;
         if (isPassedOver(*entry))
             m_enumerator->skipDescendants();
         else if (entry->hasValues() && entry->type() == EntryType::RegularFile)
             return entry;
     }
     return nullptr;
+}
+
+/// Counts the entry, or all files that it stands for, and stops at each mark among them.
+void HomeWalk::visit(const DirectoryEntry& entry)
+{
+    const auto visitedAfter = m_visited + std::max<std::int64_t>(entry.passedOver(), 1);
+    for (; m_nextMark < visitedAfter; m_nextMark += entriesPerMark) {
+        m_cancellation.throwIfCancelled();
+        m_atMark(entry);
+    }
+    m_visited = visitedAfter;
 }
 
 bool HomeWalk::isPassedOver(const DirectoryEntry& entry)

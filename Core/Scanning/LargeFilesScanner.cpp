@@ -46,7 +46,10 @@ std::vector<ScanItem> LargeFilesScanner::scan(
         found.currentPath = displayText(entry.parentPath());
         progress(found);
     };
-    HomeWalk walk(home, home, atMark, cancellation);
+    HomeWalk::Files files;
+    files.values = PrefetchedValues::AllocatedSizes;
+    files.smallestAllocatedSize = thresholdBytes;
+    HomeWalk walk(home, home, files, atMark, cancellation);
     while (const auto* file = walk.nextFile()) {
         const auto size = file->values().totalFileAllocatedSize;
         if (!size || *size < thresholdBytes)

@@ -49,7 +49,19 @@ int DescriptorCache::pin(WalkFolder& folder, std::error_code& error)
         if (ancestor == &folder)
             return folder.m_descriptor;
     }
-    return openBelow(*ancestor, folder, error);
+    return ancestor == folder.m_parent.get() ? openStep(*ancestor, folder, folder.m_name, true, error)
+                                             : openBelow(*ancestor, folder, error);
+}
+
+/// Opens a folder below a pinned ancestor, whose pin passes over to it.
+int DescriptorCache::openStep(
+    WalkFolder& from, WalkFolder& target, const std::string& relative, bool isSingle, std::error_code& error)
+{
+    const int opened = openRetrying(from.m_descriptor, relative, isSingle, error);
+    const std::lock_guard lock(m_mutex);
+    const int descriptor = opened < 0 ? -1 : install(target, opened);
+    release(from, Keep::Yes);
+    return descriptor;
 }
 
 int DescriptorCache::openBelow(WalkFolder& ancestor, WalkFolder& folder, std::error_code& error)
@@ -70,10 +82,7 @@ int DescriptorCache::openBelow(WalkFolder& ancestor, WalkFolder& folder, std::er
             chain.pop_back();
             isSingle = false;
         }
-        const int opened = openRetrying(from->m_descriptor, relative, isSingle, error);
-        const int descriptor = opened < 0 ? -1 : install(*target, opened);
-        release(*from, Keep::Yes);
-        if (descriptor < 0)
+        if (openStep(*from, *target, relative, isSingle, error) < 0)
             return -1;
         from = target;
     }
@@ -99,11 +108,9 @@ int DescriptorCache::openRetrying(int parent, const std::string& relative, bool 
 
 int DescriptorCache::install(WalkFolder& folder, int descriptor)
 {
-    std::unique_lock lock(m_mutex);
     if (folder.m_descriptor >= 0) { // Another reader was faster.
         if (folder.m_pins++ == 0)
             unlink(folder);
-        lock.unlock();
         DirectoryReader::close(descriptor);
         return folder.m_descriptor;
     }
@@ -120,31 +127,29 @@ void DescriptorCache::markPosition(WalkFolder& folder, const DirectoryReader& re
     folder.m_position = reader.positionAfter(folder.m_descriptor, folder.m_position);
 }
 
-void DescriptorCache::unpinListed(WalkFolder& folder, Keep keep)
-{
-    {
-        const std::lock_guard lock(m_mutex);
-        folder.m_position = 0;
-    }
-    release(folder, keep);
-}
-
-void DescriptorCache::release(WalkFolder& folder, Keep keep)
+void DescriptorCache::unpin(WalkFolder& folder, Listing listing, Keep keep)
 {
     int closing = -1;
     {
         const std::lock_guard lock(m_mutex);
-        if (--folder.m_pins > 0)
-            return;
-        if (keep == Keep::Yes) {
-            link(folder);
-            closeKept(m_limit);
-        } else {
-            closing = std::exchange(folder.m_descriptor, -1);
-        }
+        if (listing == Listing::AtEnd)
+            folder.m_position = 0;
+        closing = release(folder, keep);
     }
     if (closing >= 0)
         DirectoryReader::close(closing);
+}
+
+/// Ends a use; gives back the descriptor that is to be closed, if any, since that need not happen under the lock.
+int DescriptorCache::release(WalkFolder& folder, Keep keep)
+{
+    if (--folder.m_pins > 0)
+        return -1;
+    if (keep == Keep::No)
+        return std::exchange(folder.m_descriptor, -1);
+    link(folder);
+    closeKept(m_limit);
+    return -1;
 }
 
 /// A folder whose listing is still to be gone on with stays open where the host could not find the place again.

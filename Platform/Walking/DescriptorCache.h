@@ -23,6 +23,7 @@ class DescriptorCache {
 public:
     /// Whether a descriptor will be wanted again.
     enum class Keep { No, Yes };
+    enum class Listing { GoesOn, AtEnd };
 
     DescriptorCache();
     DescriptorCache(const DescriptorCache&) = delete;
@@ -34,11 +35,8 @@ public:
     /// The folder's descriptor, open until unpin; -1 with `error` set when it cannot be opened.
     int pin(WalkFolder& folder, std::error_code& error);
 
-    /// Ends a use that pin began.
-    void unpin(WalkFolder& folder, Keep keep) { release(folder, keep); }
-
-    /// The same by the reader that has come to the end of the folder's listing.
-    void unpinListed(WalkFolder& folder, Keep keep);
+    /// Ends a use that pin began, by a reader that has come to the end of the folder's listing or not.
+    void unpin(WalkFolder& folder, Listing listing, Keep keep);
 
     /// Remembers that the listing goes on after the part that `reader` holds, should the folder be closed before.
     void markPosition(WalkFolder& folder, const DirectoryReader& reader);
@@ -47,10 +45,12 @@ public:
     void forget(WalkFolder& folder) noexcept;
 
 private:
+    int openStep(
+        WalkFolder& from, WalkFolder& target, const std::string& relative, bool isSingle, std::error_code& error);
     int openBelow(WalkFolder& ancestor, WalkFolder& folder, std::error_code& error);
     int openRetrying(int parent, const std::string& relative, bool isSingle, std::error_code& error);
     int install(WalkFolder& folder, int descriptor);
-    void release(WalkFolder& folder, Keep keep);
+    int release(WalkFolder& folder, Keep keep);
     void closeKept(std::size_t remaining);
     void link(WalkFolder& folder) noexcept;
     void unlink(WalkFolder& folder) noexcept;

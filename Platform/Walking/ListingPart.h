@@ -29,12 +29,14 @@ struct ListingPart : std::enable_shared_from_this<ListingPart> {
         std::int64_t fileSize;
         std::int64_t modified; ///< Nanoseconds since 1970.
         std::uint32_t nameOffset;
+        std::uint32_t passedOver; ///< How many files of the listing it stands for when it is no entry itself.
         std::uint16_t nameLength;
         EntryType type;
         bool isPackage : 1;
         bool isEntered : 1; ///< A folder that the walk goes into: the next one of `subfolders`.
         bool hasValues : 1; ///< False when values that were wanted could not be read.
-        bool areValuesSet : 1;
+        bool isSizeSet : 1; ///< The allocated size was asked for and is known,
+        bool areValuesSet : 1; ///< and the other values too.
     };
 
     explicit ListingPart(WalkFolderReference owner)
@@ -54,7 +56,7 @@ struct ListingPart : std::enable_shared_from_this<ListingPart> {
     std::shared_ptr<ListingPart> rest; ///< The next part of the same listing, if there is one.
     std::error_code error; ///< Why the listing ends after these entries before its end.
 
-    State state = State::Unread;
+    std::atomic<State> state = State::Unread; ///< Once it is Read, the part is the consumer's without any lock.
     std::atomic<bool> isUnwanted{ false }; ///< Tells the reader that it may stop.
     std::size_t bytesAhead = 0; ///< What this part takes of the room for reading ahead.
     ListingPart* before = nullptr;

@@ -16,10 +16,14 @@ namespace Korvane {
 
 namespace {
 
+using Listing = DescriptorCache::Listing;
 using State = ListingPart::State;
 
 /// How much is read ahead at most; enough for some 100,000 entries.
 constexpr std::size_t roomForReadingAhead = std::size_t{ 8 } << 20;
+
+/// How much the consumer takes before it tells, so that it does not lock for every folder.
+constexpr std::size_t bytesBetweenSettlements = std::size_t{ 64 } << 10;
 
 /// What a subfolder that nobody has read yet takes, with its name and what manages it.
 constexpr std::size_t bytesPerSubfolder = 320;
@@ -35,6 +39,18 @@ constexpr std::chrono::milliseconds cancellationInterval{ 20 };
 
 /// How many entries are read between two looks at the same; on a slow disk one entry may take milliseconds.
 constexpr std::uint32_t entriesBetweenLooks = 8;
+
+/// Counts one more file that is not delivered, together with those just before it.
+void passOver(std::vector<ListingPart::Entry>& entries)
+{
+    if (entries.empty() || entries.back().passedOver == 0) {
+        ListingPart::Entry run{};
+        run.type = EntryType::RegularFile;
+        run.hasValues = true;
+        entries.push_back(run);
+    }
+    ++entries.back().passedOver;
+}
 
 } // namespace
 
@@ -64,6 +80,14 @@ ReadAhead::Part ReadAhead::begin(const std::string& root)
 
 void ReadAhead::obtain(const Part& part)
 {
+    if (part->state.load(std::memory_order_acquire) == State::Read) {
+        m_bytesTaken += std::exchange(part->bytesAhead, 0);
+        if (m_bytesTaken >= bytesBetweenSettlements) {
+            const std::lock_guard lock(m_mutex);
+            settle();
+        }
+        return;
+    }
     std::unique_lock lock(m_mutex);
     while (part->state != State::Read) {
         m_cancellation.throwIfCancelled();
@@ -82,7 +106,14 @@ void ReadAhead::obtain(const Part& part)
             m_awaited = nullptr;
         }
     }
-    m_bytesAhead -= std::exchange(part->bytesAhead, 0);
+    m_bytesTaken += std::exchange(part->bytesAhead, 0);
+    settle();
+}
+
+/// Gives the room that the consumer has freed back to the readers.
+void ReadAhead::settle()
+{
+    m_bytesAhead -= std::exchange(m_bytesTaken, 0);
     inviteReader();
 }
 
@@ -159,14 +190,14 @@ void ReadAhead::read(ListingPart& part, Desk& desk)
     }
     part.entries = desk.entries; // Copies that take no more than they need.
     part.names = desk.names;
+    part.subfolders.assign(
+        std::make_move_iterator(desk.subfolders.begin()), std::make_move_iterator(desk.subfolders.end()));
     const bool isWanted = isLong || !part.subfolders.empty();
     const auto keep = isWanted ? DescriptorCache::Keep::Yes : DescriptorCache::Keep::No;
-    if (isLong)
-        m_descriptors.unpin(*part.folder, keep);
-    else
-        m_descriptors.unpinListed(*part.folder, keep);
+    m_descriptors.unpin(*part.folder, isLong ? Listing::GoesOn : Listing::AtEnd, keep);
     desk.entries.clear();
     desk.names.clear();
+    desk.subfolders.clear();
 }
 
 /// Another reader may list the rest of a long folder while this one reads the values of what it has listed.
@@ -187,8 +218,8 @@ void ReadAhead::addEntries(ListingPart& part, int descriptor, Desk& desk)
 {
     ListedEntry listed;
     for (std::uint32_t count = 0; desk.reader.next(listed); ++count) {
-        const bool isWanted = !part.isUnwanted.load(std::memory_order_relaxed) && !m_cancellation.isCancelled();
-        if (count % entriesBetweenLooks == 0 && !isWanted)
+        if (count % entriesBetweenLooks == 0
+            && (part.isUnwanted.load(std::memory_order_relaxed) || m_cancellation.isCancelled()))
             return;
         if (m_rules.isDelivered(listed))
             addEntry(part, descriptor, listed, desk);
@@ -197,7 +228,13 @@ void ReadAhead::addEntries(ListingPart& part, int descriptor, Desk& desk)
 
 void ReadAhead::addEntry(ListingPart& part, int descriptor, ListedEntry& listed, Desk& desk)
 {
+    using Wanted = DirectoryReader::Wanted;
     DirectoryReader::readValues(descriptor, m_rules.wantedOf(listed), listed);
+    if (m_rules.isPassedOver(listed)) {
+        passOver(desk.entries);
+        return;
+    }
+    const auto wanted = m_rules.wantedOf(listed); // By now the type is known.
     const std::string_view name(listed.name);
     ListingPart::Entry entry{};
     entry.allocatedSize = listed.allocatedSize;
@@ -207,12 +244,13 @@ void ReadAhead::addEntry(ListingPart& part, int descriptor, ListedEntry& listed,
     entry.nameLength = static_cast<std::uint16_t>(name.size());
     entry.type = listed.type;
     entry.hasValues = listed.hasValues;
-    entry.areValuesSet = listed.hasValues && m_rules.wantedOf(listed) == DirectoryReader::Wanted::All;
+    entry.isSizeSet = listed.hasValues && wanted != Wanted::Type;
+    entry.areValuesSet = listed.hasValues && wanted == Wanted::All;
     if (listed.type == EntryType::Directory) {
         entry.isPackage = hasPackageExtension(name);
         entry.isEntered = m_rules.isEntered(*part.folder, name, entry.isPackage);
         if (entry.isEntered)
-            part.subfolders.push_back(std::make_shared<ListingPart>(WalkFolder::makeChild(part.folder, name)));
+            desk.subfolders.push_back(std::make_shared<ListingPart>(WalkFolder::makeChild(part.folder, name)));
     }
     desk.names.append(name);
     desk.entries.push_back(entry);
@@ -223,15 +261,16 @@ void ReadAhead::publish(ListingPart& part, std::size_t bytesAhead)
 {
     if (part.state == State::Discarded)
         return;
-    part.state = State::Read;
     part.bytesAhead = bytesAhead;
     m_bytesAhead += bytesAhead;
     for (const auto& subfolder : part.subfolders)
         insert(*subfolder, part.before, &part);
     m_unread += part.subfolders.size();
     unlink(part);
+    const bool isAwaited = m_awaited == &part;
+    part.state.store(State::Read, std::memory_order_release);
     inviteReader();
-    if (m_awaited == &part)
+    if (isAwaited)
         m_partRead.notify_one();
 }
 

@@ -47,6 +47,7 @@ private:
         DirectoryReader reader;
         std::vector<ListingPart::Entry> entries;
         std::string names;
+        std::vector<Part> subfolders;
     };
 
     Part claim(ListingPart& part);
@@ -59,6 +60,7 @@ private:
     void insert(ListingPart& part, ListingPart* before, ListingPart* after);
     void unlink(ListingPart& part);
     void inviteReader();
+    void settle();
 
     const WalkRules m_rules;
     const Cancellation m_cancellation;
@@ -72,6 +74,7 @@ private:
     ListingPart* m_first = nullptr; // Of the parts that are unread or being read.
     std::size_t m_unread = 0;
     std::size_t m_bytesAhead = 0;
+    std::size_t m_bytesTaken = 0; // By the consumer, and not yet taken off from those above; the consumer's alone.
 };
 
 } // namespace Korvane

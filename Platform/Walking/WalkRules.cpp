@@ -14,6 +14,8 @@ WalkRules::WalkRules(const EnumerationOptions& options)
     : m_skipsHidden(options.hiddenFiles == HiddenFiles::Skipped)
     , m_skipsPackages(options.packageDescendants == PackageDescendants::Skipped)
     , m_values(options.values)
+    , m_smallestAllocatedSize(options.smallestAllocatedSize)
+    , m_smallestFileSize(options.values == PrefetchedValues::AllocatedSizes ? 0 : options.smallestFileSize)
 {
     if (options.namesNeverEntered)
         m_names.assign(options.namesNeverEntered->begin(), options.namesNeverEntered->end());
@@ -40,9 +42,12 @@ bool WalkRules::isEntered(const WalkFolder& folder, std::string_view name, bool 
 
 DirectoryReader::Wanted WalkRules::wantedOf(const ListedEntry& entry) const noexcept
 {
-    const bool isWanted = m_values == PrefetchedValues::AllValues
-        || (m_values == PrefetchedValues::FileValues && entry.type != EntryType::Directory);
-    return isWanted ? DirectoryReader::Wanted::All : DirectoryReader::Wanted::Type;
+    if (m_values == PrefetchedValues::AllValues)
+        return DirectoryReader::Wanted::All;
+    if (m_values == PrefetchedValues::TypeOnly || entry.type == EntryType::Directory)
+        return DirectoryReader::Wanted::Type;
+    return m_values == PrefetchedValues::AllocatedSizes ? DirectoryReader::Wanted::AllocatedSize
+                                                        : DirectoryReader::Wanted::All;
 }
 
 } // namespace Korvane

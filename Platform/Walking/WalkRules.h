@@ -6,6 +6,7 @@
 #include "Platform/EnumerationOptions.h"
 #include "Platform/Walking/DirectoryReader.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -19,6 +20,12 @@ public:
     explicit WalkRules(const EnumerationOptions& options);
 
     bool isDelivered(const ListedEntry& entry) const noexcept { return !m_skipsHidden || !entry.isHidden; }
+    /// Whether an entry whose values were read is only counted.
+    bool isPassedOver(const ListedEntry& entry) const noexcept
+    {
+        return entry.type == EntryType::RegularFile && entry.hasValues && m_values != PrefetchedValues::TypeOnly
+            && (entry.allocatedSize < m_smallestAllocatedSize || entry.fileSize < m_smallestFileSize);
+    }
     bool isEntered(const WalkFolder& folder, std::string_view name, bool isPackage) const;
     DirectoryReader::Wanted wantedOf(const ListedEntry& entry) const noexcept;
 
@@ -26,6 +33,8 @@ private:
     bool m_skipsHidden;
     bool m_skipsPackages;
     PrefetchedValues m_values;
+    std::int64_t m_smallestAllocatedSize;
+    std::int64_t m_smallestFileSize;
     std::vector<std::string> m_names; // Sorted.
     std::vector<std::filesystem::path> m_paths;
     std::vector<std::string> m_lastNamesOfPaths;
