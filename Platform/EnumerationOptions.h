@@ -20,10 +20,10 @@ enum class PackageDescendants { Entered, Skipped };
 
 /// Which values a walk reads with each entry, so that nothing is asked of the disk that nobody wants.
 enum class PrefetchedValues {
-    TypeOnly,       ///< Type, taken from the listing wherever the file system tells it there.
+    TypeOnly, ///< Type, taken from the listing wherever the file system tells it there.
     AllocatedSizes, ///< Allocated size of everything that is not a folder; of folders only the type.
-    FileValues,     ///< Sizes and modification date of everything that is not a folder; of folders only the type.
-    AllValues,      ///< Sizes and modification date of every entry.
+    FileValues, ///< Sizes and modification date of everything that is not a folder; of folders only the type.
+    AllValues, ///< Sizes and modification date of every entry.
 };
 
 /// What an error handler answers: go on with the next entry, or end the walk.

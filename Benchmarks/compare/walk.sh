@@ -45,19 +45,32 @@ job_measure_cold() {
     finish
 }
 
+# made_home: the tree with one file of 1 MiB in each folder of the first level, of which a search finds those it may.
+made_home() {
+    local tree folder
+    tree=$(made_tree tree "$files" "$folders" 40)
+    for folder in "$tree"/*/; do
+        [[ -e $folder/large.bin ]] || fallocate -l 1M "$folder/large.bin"
+    done
+    printf '%s\n' "$tree"
+}
+
 large_contestants() { # PATH
     local leaving_out=(-mindepth 1 '(' -name '.*' -o -type d '(' -name node_modules -o -name Library -o -name '*.app' ')' ')' -prune)
-    contestant "bare loop" cat "$tools/bench-bare-walk" --home "$1"
-    contestant korvane cat "$tools/bench-large-walk" "$1"
-    contestant find "$sum_of_blocks" find "$1" "${leaving_out[@]}" -o -type f -printf '%b\n'
-    has bfs && contestant "${bfs[*]}" "$sum_of_blocks" "${bfs[@]}" "$1" "${leaving_out[@]}" -o -type f -printf '%b\n'
+    local large=(-type f -size +1023k -printf '%b\n')
+    contestant "bare loop" cat "$tools/bench-bare-walk" --home 1048576 "$1"
+    contestant korvane cat "$tools/bench-large-files" "$1" 1048576
+    contestant find "$sum_of_blocks" find "$1" "${leaving_out[@]}" -o "${large[@]}"
+    has bfs && contestant "${bfs[*]}" "$sum_of_blocks" "${bfs[@]}" "$1" "${leaving_out[@]}" -o "${large[@]}"
+    has fdfind && contestant fd "$sum_of_blocks" \
+        fdfind -I -t f -S +1MiB -E node_modules -E Library -E '*.app' . "$1" -X stat -c %b
     return 0
 }
 
 job_large() {
     local tree
-    tree=$(made_tree tree "$files" "$folders" 40)
-    begin "Walk a home folder for large files, in order, warm"
+    tree=$(made_home)
+    begin "Search a home folder for large files, warm"
     large_contestants "$tree"
     finish
 }
@@ -65,8 +78,8 @@ job_large() {
 job_large_cold() {
     local tree
     [[ -w /proc/sys/vm/drop_caches ]] || { echo "large_cold: only root can drop the caches" >&2; return; }
-    tree=$(made_tree tree "$files" "$folders" 40)
-    begin "Walk a home folder for large files, in order, cold"
+    tree=$(made_home)
+    begin "Search a home folder for large files, cold"
     before=$drop_caches
     large_contestants "$tree"
     finish

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// bench-bare-walk [--home BYTES] PATH...: the yardstick. One thread and only the system calls that a walk cannot do without:
-// open each folder, getdents, one fstatat for each entry. Prints the allocated bytes of the regular files below each
-// path; with --home only of those that occupy so many, and it leaves out what a search of a home folder leaves out:
-// hidden names, "Library", "node_modules" and packages.
+// bench-bare-walk [--home BYTES] PATH...: the yardstick. One thread and only the system calls that a walk cannot do
+// without: open each folder, getdents, one fstatat for each entry. Prints the allocated bytes of the regular files
+// below each path; with --home only of those that occupy so many, and it leaves out what a search of a home folder
+// leaves out: hidden names, "Library", "node_modules" and packages.
 
 #include <cstdint>
 #include <cstdio>

@@ -96,19 +96,23 @@ int main(int count, char** arguments)
     environment.xdgCacheHome = folder; // The scan of system junk measures what lies in the folder of caches.
     const Korvane::Host host{ environment, Korvane::makeFileManager(environment), Korvane::makeWorkspace(environment),
         nullptr };
-    const Korvane::ProgressHandler silent = [](const Korvane::ScanProgress&) { };
+    const Korvane::ProgressHandler silent = [](const Korvane::ScanProgress&) {};
 
-    measure("enumerator", [&](const Korvane::Cancellation& cancellation) {
-        Korvane::DirectoryEnumerator walk(folder, {}, cancellation);
-        while (walk.next()) { }
-    }, times, isCold);
-    measure("totalSize", [&](const auto& cancellation) { Korvane::totalAllocatedSize(folder, cancellation); }, times,
+    measure(
+        "enumerator",
+        [&](const Korvane::Cancellation& cancellation) {
+            Korvane::DirectoryEnumerator walk(folder, {}, cancellation);
+            while (walk.next()) { }
+        },
+        times, isCold);
+    measure(
+        "totalSize", [&](const auto& cancellation) { Korvane::totalAllocatedSize(folder, cancellation); }, times,
         isCold);
-    measure("large files", [&](const auto& cancellation) {
-        Korvane::LargeFilesScanner().scan(host, silent, cancellation);
-    }, times, isCold);
-    measure("system junk", [&](const auto& cancellation) {
-        Korvane::SystemJunkScanner().scan(host, silent, cancellation);
-    }, times, isCold);
+    measure(
+        "large files", [&](const auto& cancellation) { Korvane::LargeFilesScanner().scan(host, silent, cancellation); },
+        times, isCold);
+    measure(
+        "system junk", [&](const auto& cancellation) { Korvane::SystemJunkScanner().scan(host, silent, cancellation); },
+        times, isCold);
     return 0;
 }

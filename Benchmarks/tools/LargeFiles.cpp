@@ -22,7 +22,7 @@ int main(int count, char** arguments)
     const Korvane::Host host{ environment, Korvane::makeFileManager(environment), nullptr, nullptr };
     const Korvane::LargeFilesScanner scanner(std::atoll(arguments[2]), std::numeric_limits<std::int64_t>::max());
     std::int64_t total = 0;
-    for (const auto& item : scanner.scan(host, [](const Korvane::ScanProgress&) { }, {}))
+    for (const auto& item : scanner.scan(host, [](const Korvane::ScanProgress&) {}, {}))
         total = Korvane::checkedAdd(total, item.sizeInBytes);
     std::printf("%lld\n", static_cast<long long>(total));
     return 0;

@@ -35,7 +35,11 @@ EnumerationOptions optionsOf(std::uint32_t number, const fs::path& root, const s
         options.namesNeverEntered = &names;
     if (number & 8)
         options.pathsNeverEntered = { root / "Library", root / "target" };
-    options.values = static_cast<PrefetchedValues>(number / 16 % 3);
+    options.values = static_cast<PrefetchedValues>(number / 16 % 4);
+    if (number & 64)
+        options.smallestAllocatedSize = 4096;
+    if (number & 128)
+        options.smallestFileSize = 100;
     return options;
 }
 
@@ -47,7 +51,7 @@ TEST(DirectoryEnumeratorRandomTest, GivesWhatAPlainRecursionGivesInTheSameOrder)
         // Both kinds of file system that the machine offers have a say.
         const TemporaryFolder folder(seed % 4 == 0 ? fs::temp_directory_path() : placeForLargeTrees());
         const RandomTree tree(folder.path(), seed, 20 + static_cast<int>(seed) % 180);
-        const auto options = optionsOf(seed % 48, folder.path(), names);
+        const auto options = optionsOf(seed, folder.path(), names);
         const SkipRule skip = [seed](const fs::path& path) {
             return seed % 5 == 0 && std::hash<std::string>()(path.filename().native()) % 4 == 0;
         };

@@ -36,6 +36,8 @@ std::string textOf(const Described& entry)
     return text.str();
 }
 
+std::string textOfPassedOver(const fs::path& folder) { return folder.native() + " holds a file passed over"; }
+
 EntryType typeOf(const struct stat& status)
 {
     if (S_ISREG(status.st_mode))
@@ -77,7 +79,8 @@ public:
             struct stat status { };
             ::lstat(path.c_str(), &status);
             const bool isPackage = S_ISDIR(status.st_mode) && hasPackageExtension(name);
-            m_entries.push_back(textOf(described(path, status, isPackage, depth)));
+            const auto entry = described(path, status, isPackage, depth);
+            m_entries.push_back(isPassedOver(entry) ? textOfPassedOver(folder) : textOf(entry));
             if (S_ISDIR(status.st_mode) && isEntered(path, name, isPackage))
                 walk(path, depth + 1);
         }
@@ -95,7 +98,16 @@ private:
             entry.size = status.st_size;
             entry.modified = modificationDate(status).time_since_epoch().count();
         }
+        if (m_options.values == PrefetchedValues::AllocatedSizes && !S_ISDIR(status.st_mode))
+            entry.allocated = std::int64_t{ status.st_blocks } * 512;
         return entry;
+    }
+
+    bool isPassedOver(const Described& entry) const
+    {
+        return entry.type == EntryType::RegularFile
+            && ((entry.allocated && *entry.allocated < m_options.smallestAllocatedSize)
+                || (entry.size && *entry.size < m_options.smallestFileSize));
     }
 
     bool isEntered(const fs::path& path, const std::string& name, bool isPackage) const
@@ -131,6 +143,10 @@ std::vector<std::string> walked(const fs::path& root, const EnumerationOptions& 
     std::vector<std::string> entries;
     DirectoryEnumerator walk(root, options);
     while (const auto* entry = walk.next()) {
+        if (entry->passedOver() > 0) {
+            entries.insert(entries.end(), entry->passedOver(), textOfPassedOver(entry->parentPath()));
+            continue;
+        }
         entries.push_back(describe(*entry));
         if (skip && skip(entry->path()))
             walk.skipDescendants();
