@@ -11,8 +11,9 @@ namespace Korvane {
 namespace {
 
 /// Extensions of the folders that macOS shows as one file: those of the types conforming to "com.apple.package" that
-/// the system, Apple's media and office applications and Xcode declare. Lower case, sorted.
-constexpr std::array<std::string_view, 61> packageExtensions{
+/// the system, Apple's media and office applications and Xcode declare. Lower case, sorted. Not "framework": its type
+/// conforms to "com.apple.bundle" alone, and macOS shows it as the folder that it is.
+constexpr std::array<std::string_view, 60> packageExtensions{
     "action",
     "aplibrary",
     "app",
@@ -27,7 +28,6 @@ constexpr std::array<std::string_view, 61> packageExtensions{
     "dsym",
     "dvdmedia",
     "fcpbundle",
-    "framework",
     "imovielibrary",
     "imovieproject",
     "kext",

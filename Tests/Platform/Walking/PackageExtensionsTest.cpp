@@ -10,7 +10,7 @@ namespace {
 
 TEST(PackageExtensionsTest, KnowsPackagesInAnyCase)
 {
-    for (const auto* name : { "Safari.app", "A.APP", "x.bundle", "Kit.framework", "Photos Library.photoslibrary",
+    for (const auto* name : { "Safari.app", "A.APP", "x.bundle", "Photos Library.photoslibrary",
              "driver.kext", "part.plugin", "Project.xcodeproj", "Disk.sparsebundle", "a.b.c.PrefPane", "\xff.app" })
         EXPECT_TRUE(hasPackageExtension(name)) << name;
 }
@@ -18,7 +18,7 @@ TEST(PackageExtensionsTest, KnowsPackagesInAnyCase)
 TEST(PackageExtensionsTest, LeavesOtherFoldersAlone)
 {
     for (const auto* name : { "", ".", "..", ".app", "app", "x.", "x.apps", "x.ap", "Library", "node_modules", "conf.d",
-             "x.app ", "x.app.old", "x.an extension longer than any that is registered", "user.service" })
+             "x.app ", "x.app.old", "x.an extension longer than any that is registered", "user.service", "Kit.framework" })
         EXPECT_FALSE(hasPackageExtension(name)) << name;
 }
 
