@@ -67,8 +67,12 @@ bool isPlain(char byte) { return byte >= 0x20 && byte < 0x7F; }
 
 bool isNamed(std::uint32_t character)
 {
-    return (character >= 0x80 && character <= 0x9F) || character == 0x61C || character == 0x200E || character == 0x200F
-        || (character >= 0x2028 && character <= 0x202E) || (character >= 0x2066 && character <= 0x2069);
+    // Joiners (U+200C, U+200D) are left alone: words and pictures are spelt with them.
+    constexpr std::uint32_t softHyphen = 0xAD, zeroWidthSpace = 0x200B, wordJoiner = 0x2060, byteOrderMark = 0xFEFF;
+    return (character >= 0x80 && character <= 0x9F) || character == softHyphen || character == 0x61C
+        || character == zeroWidthSpace || character == 0x200E || character == 0x200F
+        || (character >= 0x2028 && character <= 0x202E) || character == wordJoiner
+        || (character >= 0x2066 && character <= 0x2069) || character == byteOrderMark;
 }
 
 void appendShown(std::string& text, std::uint32_t character, std::string_view bytes)

@@ -52,6 +52,12 @@ TEST(DisplayText, NamesWhatHasNoPicture)
     EXPECT_EQ(displayText("one\u2028two\u2029three"s), "one[U+2028]two[U+2029]three");
 }
 
+TEST(DisplayText, NamesWhatCannotBeSeen)
+{
+    EXPECT_EQ(displayText("\uFEFFreport"s), "[U+FEFF]report");
+    EXPECT_EQ(displayText("re\u00ADport\u200B.\u2060txt"s), "re[U+00AD]port[U+200B].[U+2060]txt");
+}
+
 TEST(DisplayText, ShowsWhatTurnsTheDirectionOfWriting)
 {
     EXPECT_EQ(displayText("invoice\u202Efdp.exe"s), "invoice[U+202E]fdp.exe");
