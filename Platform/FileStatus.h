@@ -10,7 +10,8 @@ struct stat;
 
 namespace Korvane {
 
-/// When the contents of the file that `status` describes were last changed.
+/// When the contents of the file that `status` describes were last changed, or the nearest date that 64 bits of
+/// nanoseconds reach.
 std::chrono::sys_time<std::chrono::nanoseconds> modificationDate(const struct ::stat& status);
 
 /// Whether another process holds a lock (flock or fcntl) on the file or folder at `path`, which `status` describes.

@@ -4,6 +4,7 @@
 #include "Platform/FileStatus.h"
 
 #include "Platform/LockTable.h"
+#include "Platform/Walking/PosixEntries.h"
 
 #include <fstream>
 #include <sys/stat.h>
@@ -29,7 +30,7 @@ bool hasDeviceNumberOfItsOwn(const std::filesystem::path& path)
 std::chrono::sys_time<std::chrono::nanoseconds> modificationDate(const struct ::stat& status)
 {
     return std::chrono::sys_time<std::chrono::nanoseconds>(
-        std::chrono::seconds(status.st_mtim.tv_sec) + std::chrono::nanoseconds(status.st_mtim.tv_nsec));
+        std::chrono::nanoseconds(nanosecondsSince1970(status.st_mtim.tv_sec, status.st_mtim.tv_nsec)));
 }
 
 bool isLockedByAnotherProcess(const std::filesystem::path& path, const struct ::stat& status)

@@ -3,6 +3,8 @@
 
 #include "Platform/FileStatus.h"
 
+#include "Platform/Walking/PosixEntries.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -13,7 +15,7 @@ std::chrono::sys_time<std::chrono::nanoseconds> modificationDate(const struct ::
 {
     // nanoseconds explicitly: this library's own clock counts microseconds.
     return std::chrono::sys_time<std::chrono::nanoseconds>(
-        std::chrono::seconds(status.st_mtimespec.tv_sec) + std::chrono::nanoseconds(status.st_mtimespec.tv_nsec));
+        std::chrono::nanoseconds(nanosecondsSince1970(status.st_mtimespec.tv_sec, status.st_mtimespec.tv_nsec)));
 }
 
 bool isLockedByAnotherProcess(const std::filesystem::path& path, const struct ::stat& status)

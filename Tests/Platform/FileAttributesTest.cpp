@@ -52,6 +52,19 @@ TEST_F(FileAttributesTest, DescribeAFileOfTheUser)
     EXPECT_EQ(attributes.contentModificationDate.time_since_epoch().count(), 1'700'000'000'123'456'789);
 }
 
+TEST_F(FileAttributesTest, KeepADateThatLiesBeyondAllCountingInItsDirection)
+{
+    writeFile(file, "x");
+    constexpr time_t year2300 = 10'413'792'000;
+    const std::array<timespec, 2> times{ { { 5, 0 }, { year2300, 0 } } };
+    ASSERT_EQ(::utimensat(AT_FDCWD, file.c_str(), times.data(), 0), 0);
+    struct stat status { };
+    ASSERT_EQ(::stat(file.c_str(), &status), 0);
+    if (status.st_mtime != year2300)
+        GTEST_SKIP() << "this file system keeps no date after 2262";
+    EXPECT_EQ(attributesOfItem(file).contentModificationDate, FileAttributes().contentModificationDate.max());
+}
+
 TEST_F(FileAttributesTest, DescribeALinkAndNotWhatItNames)
 {
     std::filesystem::create_symlink("/tmp", file);
