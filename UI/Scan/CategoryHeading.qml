@@ -6,7 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Korvane.UI
 
-/// The sticky heading of a category in a `ResultsList`: its name, how much it holds, and a box that ticks all of it.
+/// The sticky heading of a category in a `ResultsList`: its name, how much it holds, and a box that ticks what is
+/// selectable by default in it, or unticks it.
 ///
 /// On Qt 6.4 a list makes its headings in a context in which a component of another file cannot be bound, so this one is
 /// loaded by its address, is given nothing but the category, and finds its list by itself.
@@ -18,6 +19,9 @@ Rectangle {
     readonly property ResultsList list: heading.parent === null ? null : heading.parent.parent as ResultsList
     readonly property ScanResultsModel rows: heading.list === null ? null : heading.list.viewModel.rows
     property var category: ({ sizeText: "", itemCount: 0, tickedCount: 0 })
+
+    readonly property int ticks: heading.category.tickedCount === 0 ? Qt.Unchecked
+        : heading.category.tickedCount < heading.category.itemCount ? Qt.PartiallyChecked : Qt.Checked
 
     function refresh(): void {
         if (heading.rows !== null)
@@ -41,18 +45,15 @@ Rectangle {
     }
 
     CheckBox {
-        id: all
-
         x: 20
         anchors.verticalCenter: parent.verticalCenter
         focusPolicy: Qt.NoFocus
         tristate: true
-        checkState: heading.category.tickedCount === 0 ? Qt.Unchecked
-            : heading.category.tickedCount < heading.category.itemCount ? Qt.PartiallyChecked : Qt.Checked
+        checkState: heading.ticks
         nextCheckState: () => {
-            const ticks = all.checkState !== Qt.Checked;
-            heading.rows.setCategoryTicked(heading.section, ticks);
-            return ticks ? Qt.Checked : Qt.Unchecked;
+            heading.rows.toggleCategory(heading.section);
+            heading.refresh();
+            return heading.ticks;
         }
         Accessible.name: heading.section
     }

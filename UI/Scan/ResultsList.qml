@@ -8,7 +8,7 @@ import QtQuick.Templates as T
 import Korvane.UI
 
 /// The findings as rows under sticky headings. Arrow keys, Home, End and the Page keys move; Space ticks a row, with Shift
-/// its whole category; the Menu key, or Shift and F10, opens the row's menu.
+/// its category; the Menu key, or Shift and F10, opens the row's menu.
 ListView {
     id: list
 
@@ -20,10 +20,6 @@ ListView {
 
     function moveTo(row: int) {
         list.currentIndex = Math.max(0, Math.min(list.count - 1, row));
-    }
-    function toggleCategory(title: string) {
-        const category = list.viewModel.rows.category(title);
-        list.viewModel.rows.setCategoryTicked(title, category.tickedCount < category.itemCount);
     }
     function openMenu(itemId: string, place: Item, x: real, y: real) {
         menu.itemId = itemId;
@@ -52,7 +48,7 @@ ListView {
         width: list.width
         showsFocus: list.byKeyboard
         onToggled: list.viewModel.rows.setTicked(itemId, checked)
-        onCategoryToggled: list.toggleCategory(category)
+        onCategoryToggled: list.viewModel.rows.toggleCategory(category)
         onPressed: {
             list.byKeyboard = false;
             list.currentIndex = index;

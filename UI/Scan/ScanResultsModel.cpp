@@ -91,16 +91,15 @@ void ScanResultsModel::setAllTicked(bool ticked)
     Q_EMIT ticksChanged();
 }
 
-void ScanResultsModel::setCategoryTicked(const QString& category, bool ticked)
+void ScanResultsModel::toggleCategory(const QString& title)
 {
-    const auto found = m_findings->categoryNamed(category.toStdString());
+    const auto found = m_findings->categoryNamed(title.toStdString());
     if (!found)
         return;
+    m_selection.toggleCategory(*found);
     const ScanFindings::Category& rows = m_findings->categories()[*found];
-    const std::size_t endRow = rows.firstRow + rows.itemCount;
-    for (std::size_t row = rows.firstRow; row < endRow; ++row)
-        m_selection.setItem(m_findings->itemInRow(row), ticked);
-    Q_EMIT dataChanged(index(static_cast<int>(rows.firstRow)), index(static_cast<int>(endRow) - 1), { TickedRole });
+    const auto lastRow = static_cast<int>(rows.firstRow + rows.itemCount) - 1;
+    Q_EMIT dataChanged(index(static_cast<int>(rows.firstRow)), index(lastRow), { TickedRole });
     Q_EMIT ticksChanged();
 }
 

@@ -52,7 +52,8 @@ public:
     void setTicked(const Uuid& id, bool ticked);
     void setAllTicked(bool ticked);
     Q_INVOKABLE void setTicked(const QString& itemId, bool ticked);
-    Q_INVOKABLE void setCategoryTicked(const QString& category, bool ticked);
+    /// Ticks what a scan would tick of the category with this title, or unticks all of it: see ScanSelection.
+    Q_INVOKABLE void toggleCategory(const QString& title);
 
     /// Sums of the category with this title; empty ones when there is none.
     Q_INVOKABLE Korvane::ScanCategory category(const QString& title) const;

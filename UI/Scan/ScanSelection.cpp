@@ -54,6 +54,27 @@ void ScanSelection::setItem(std::size_t itemIndex, bool ticked)
     }
 }
 
+void ScanSelection::toggleCategory(std::size_t category)
+{
+    const ScanFindings::Category& rows = m_findings->categories()[category];
+    bool hasDefaults = false;
+    for (std::size_t row = rows.firstRow; row < rows.firstRow + rows.itemCount; ++row)
+        hasDefaults = hasDefaults || m_findings->items()[m_findings->itemInRow(row)].selectableByDefault;
+    std::vector<std::size_t> meant;
+    bool isEachTicked = true;
+    for (std::size_t row = rows.firstRow; row < rows.firstRow + rows.itemCount; ++row) {
+        const std::size_t item = m_findings->itemInRow(row);
+        if (hasDefaults && !m_findings->items()[item].selectableByDefault)
+            continue;
+        meant.push_back(item);
+        isEachTicked = isEachTicked && m_ticked[item];
+    }
+    for (const std::size_t item : meant)
+        setItem(item, true);
+    for (std::size_t row = rows.firstRow; isEachTicked && row < rows.firstRow + rows.itemCount; ++row)
+        setItem(m_findings->itemInRow(row), false);
+}
+
 void ScanSelection::setAll(bool ticked)
 {
     std::fill(m_ticked.begin(), m_ticked.end(), ticked);

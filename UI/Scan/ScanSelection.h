@@ -27,6 +27,10 @@ public:
 
     /// Ticks or unticks one item, by its place in the findings.
     void setItem(std::size_t itemIndex, bool ticked);
+    /// Ticks those of a category that are selectable by default, or all of it where none is; once they are all ticked,
+    /// unticks the whole category. What a scan does not tick by itself, such as the original of a set of duplicates, is
+    /// thus never ticked along with the rest, only by itself or with all there is.
+    void toggleCategory(std::size_t category);
     /// Ticks or unticks all items.
     void setAll(bool ticked);
 

@@ -52,7 +52,9 @@ private Q_SLOTS:
     void saysOfRowsThatShareTheirStorageWhatCleaningDoes();
     void ticksByIdentityAndAnnouncesOnlyThatRow();
     void ignoresAnIdentityFromAnotherScan();
-    void ticksAWholeCategory();
+    void ticksWhatIsSelectableByDefaultInACategory();
+    void ticksAllOfACategoryInWhichNothingIsTickedByDefault();
+    void neverTicksAnOriginalAlongWithItsCopies();
     void sumsExactlyWhatIsTicked();
     void takesAHundredThousandItems();
 };
@@ -63,7 +65,7 @@ void ScanResultsModelTest::holdsTheModelContract()
     QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
     show(model, findingsOf(someItems()));
     model.setAllTicked(true);
-    model.setCategoryTicked("User Caches", false);
+    model.toggleCategory("User Caches");
     model.setTicked(model.index(0).data(ScanResultsModel::ItemIdRole).toString(), true);
     show(model, findingsOf({}));
     show(model, findingsOf(someItems()));
@@ -149,7 +151,7 @@ void ScanResultsModelTest::ignoresAnIdentityFromAnotherScan()
     QVERIFY(model.item(model.index(0).data(ScanResultsModel::ItemIdRole).toString()));
 }
 
-void ScanResultsModelTest::ticksAWholeCategory()
+void ScanResultsModelTest::ticksWhatIsSelectableByDefaultInACategory()
 {
     ScanResultsModel model("/home/someone");
     show(model, findingsOf(someItems()));
@@ -157,16 +159,54 @@ void ScanResultsModelTest::ticksAWholeCategory()
     QCOMPARE(model.category("User Caches").itemCount, 2);
     QCOMPARE(model.category("User Caches").tickedCount, 1);
 
-    model.setCategoryTicked("User Caches", true);
-    QCOMPARE(model.category("User Caches").tickedCount, 2);
-    QCOMPARE(model.category("Temporary Files").tickedCount, 0);
-    model.setCategoryTicked("User Caches", false);
+    const auto ticks = [&] { return column(model, ScanResultsModel::TickedRole); };
+    model.toggleCategory("User Caches");
+    QCOMPARE(ticks(), QStringList({ "false", "false", "true", "false" }));
     QCOMPARE(model.category("User Caches").tickedCount, 0);
-    QCOMPARE(model.selection().bytes(), 2'000);
+    model.toggleCategory("User Caches");
+    QCOMPARE(ticks(), QStringList({ "true", "false", "true", "false" }));
+    model.setAllTicked(true);
+    model.toggleCategory("User Caches");
+    QCOMPARE(ticks(), QStringList({ "false", "false", "true", "true" }));
+    model.setTicked(model.index(1).data(ScanResultsModel::ItemIdRole).toString(), true);
+    model.toggleCategory("User Caches");
+    QCOMPARE(ticks(), QStringList({ "true", "true", "true", "true" }));
+    QCOMPARE(model.selection().bytes(), model.findings().totalBytes());
 
-    model.setCategoryTicked("no such category", true);
-    QCOMPARE(model.selection().bytes(), 2'000);
+    const std::int64_t before = model.selection().bytes();
+    model.toggleCategory("no such category");
+    QCOMPARE(model.selection().bytes(), before);
     QCOMPARE(model.category("no such category"), ScanCategory());
+}
+
+void ScanResultsModelTest::ticksAllOfACategoryInWhichNothingIsTickedByDefault()
+{
+    ScanResultsModel model("/home/someone");
+    std::vector<ScanItem> items;
+    for (const char* path : { "/a", "/b", "/c" })
+        items.emplace_back(path, std::nullopt, "Large Files", 5, false);
+    show(model, findingsOf(std::move(items)));
+    model.toggleCategory("Large Files");
+    QCOMPARE(model.category("Large Files").tickedCount, 3);
+    model.setTicked(model.index(1).data(ScanResultsModel::ItemIdRole).toString(), false);
+    model.toggleCategory("Large Files");
+    QCOMPARE(model.category("Large Files").tickedCount, 3);
+    model.toggleCategory("Large Files");
+    QCOMPARE(model.category("Large Files").tickedCount, 0);
+}
+
+void ScanResultsModelTest::neverTicksAnOriginalAlongWithItsCopies()
+{
+    ScanResultsModel model("/home/someone");
+    const char* label = "a \u2014 3 copies, 5 bytes each";
+    show(model,
+        findingsOf({ { "/a", "a (original)", label, 5, false }, { "/b", std::nullopt, label, 5, true },
+            { "/c", std::nullopt, label, 5, true } }));
+    for (int press = 0; press < 6; ++press) {
+        QCOMPARE(column(model, ScanResultsModel::TickedRole),
+            press % 2 == 0 ? QStringList({ "false", "true", "true" }) : QStringList({ "false", "false", "false" }));
+        model.toggleCategory(QString::fromUtf8(label));
+    }
 }
 
 void ScanResultsModelTest::sumsExactlyWhatIsTicked()

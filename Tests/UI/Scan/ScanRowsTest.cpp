@@ -13,23 +13,45 @@ class ScanRowsTest : public ScanScreenFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void spaceWithShiftTicksTheWholeCategory();
+    void spaceWithShiftTicksTheCategory();
     void anywhereOnARowThePointerShowsTheWholePath();
     void aSetOfNamesOfOneFileSaysThatCleaningFreesNothing();
+    void aSetOfDuplicatesStandsUnderItsLabelWithTheOriginalFirst();
+    void theHeadingOfASetNeverTicksTheOriginal();
     void theKeyboardFollowsToTheScreenThatItOpened();
+
+private:
+    /// Scans a home with one set of three equal songs, the oldest of which is "song.flac".
+    void scanSongs() const;
+
+    const char* songs = "song.flac \u2014 3 copies, 1.2 MB each";
 };
 
-void ScanRowsTest::spaceWithShiftTicksTheWholeCategory()
+void ScanRowsTest::scanSongs() const
+{
+    const std::string content(1'200'000, 's');
+    for (const char* name : { "Music/a copy.flac", "Music/song.flac", "Music/z copy.flac" })
+        writeFile(home() / name, content);
+    const auto made = std::filesystem::last_write_time(home() / "Music/song.flac");
+    std::filesystem::last_write_time(home() / "Music/song.flac", made - std::chrono::hours(2));
+    press("Duplicates");
+    press("Start Scan");
+    QTRY_VERIFY(named("Clean"));
+    QTRY_VERIFY(row("song.flac (original)") && row("a copy.flac") && row("z copy.flac"));
+}
+
+void ScanRowsTest::spaceWithShiftTicksTheCategory()
 {
     makeCaches();
     scan();
     tabTo("org.example.maps");
     key(Qt::Key_Space, Qt::ShiftModifier);
-    QTRY_VERIFY(tick("com.apple.thumbnails") == Tick::On);
-    QVERIFY(tick("org.example.maps") == Tick::On && tick("org.example.mail") == Tick::On);
+    QTRY_VERIFY(tick("org.example.maps") == Tick::Off && tick("org.example.mail") == Tick::Off);
     key(Qt::Key_Space, Qt::ShiftModifier);
-    QTRY_VERIFY(tick("com.apple.thumbnails") == Tick::Off);
-    QVERIFY(tick("org.example.maps") == Tick::Off && tick("org.example.mail") == Tick::Off);
+    QTRY_VERIFY(tick("org.example.maps") == Tick::On && tick("org.example.mail") == Tick::On);
+    QVERIFY(tick("com.apple.thumbnails") == Tick::Off);
+    key(Qt::Key_Space, Qt::ShiftModifier);
+    QTRY_VERIFY(tick("org.example.maps") == Tick::Off && tick("org.example.mail") == Tick::Off);
     QVERIFY(tick("example.log") == Tick::On);
     key(Qt::Key_Space);
     QTRY_VERIFY(tick("org.example.maps") == Tick::On);
@@ -81,6 +103,45 @@ void ScanRowsTest::aSetOfNamesOfOneFileSaysThatCleaningFreesNothing()
         QTest::mouseMove(window(), QPoint(2, 2));
         QTRY_VERIFY(visibleTexts(window()).filter(help).isEmpty());
     }
+}
+
+void ScanRowsTest::aSetOfDuplicatesStandsUnderItsLabelWithTheOriginalFirst()
+{
+    scanSongs();
+    QVERIFY2(shows(utf8(songs)), qPrintable(visibleTexts(window()).join(" | ")));
+    const auto height = [&](const char* name) { return row(name)->mapToScene(QPointF()).y(); };
+    QVERIFY(height("song.flac (original)") < height("a copy.flac"));
+    QVERIFY(height("song.flac (original)") < height("z copy.flac"));
+    QVERIFY(heading(songs)->mapToScene(QPointF()).y() < height("song.flac (original)"));
+    QVERIFY(tick("song.flac (original)") == Tick::Off);
+    QVERIFY(tick("a copy.flac") == Tick::On && tick("z copy.flac") == Tick::On);
+    press("Clean");
+    press("Move to Trash");
+    QTRY_VERIFY(named("Scan Again"));
+    QVERIFY(shows("2 items moved to Trash or removed"));
+    QVERIFY(std::filesystem::exists(home() / "Music/song.flac"));
+    QVERIFY(std::filesystem::exists(trash() / "files/a copy.flac"));
+    QVERIFY(!std::filesystem::exists(home() / "Music/z copy.flac"));
+}
+
+void ScanRowsTest::theHeadingOfASetNeverTicksTheOriginal()
+{
+    scanSongs();
+    const auto state = [this] { return heading(songs)->property("checkState").toInt(); };
+    QCOMPARE(state(), int(Qt::PartiallyChecked));
+    pressHeading(songs);
+    QTRY_VERIFY(tick("a copy.flac") == Tick::Off && tick("z copy.flac") == Tick::Off);
+    QVERIFY(tick("song.flac (original)") == Tick::Off);
+    QCOMPARE(state(), int(Qt::Unchecked));
+    pressHeading(songs);
+    QTRY_VERIFY(tick("a copy.flac") == Tick::On && tick("z copy.flac") == Tick::On);
+    QVERIFY(tick("song.flac (original)") == Tick::Off);
+    QCOMPARE(state(), int(Qt::PartiallyChecked));
+    press("Select All");
+    QTRY_VERIFY(tick("song.flac (original)") == Tick::On);
+    QCOMPARE(state(), int(Qt::Checked));
+    pressHeading(songs);
+    QTRY_VERIFY(tick("song.flac (original)") == Tick::Off && tick("a copy.flac") == Tick::Off);
 }
 
 void ScanRowsTest::theKeyboardFollowsToTheScreenThatItOpened()

@@ -12,16 +12,16 @@ namespace Korvane {
 
 namespace {
 
-/// The check box of a found item, as tall as its row; null when it cannot be seen.
-QQuickItem* rowIn(QQuickItem* item, const QString& name)
+/// The check box of this class and accessible name; null when it cannot be seen.
+QQuickItem* checkBoxIn(QQuickItem* item, const char* kind, const QString& name)
 {
     if (!item->isVisible())
         return nullptr;
     QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(item);
-    if (interface && item->inherits("QQuickCheckDelegate") && interface->text(QAccessible::Name) == name)
+    if (interface && item->inherits(kind) && interface->text(QAccessible::Name) == name)
         return item;
     for (QQuickItem* child : item->childItems()) {
-        if (QQuickItem* found = rowIn(child, name))
+        if (QQuickItem* found = checkBoxIn(child, kind, name))
             return found;
     }
     return nullptr;
@@ -84,6 +84,12 @@ void ScanScreenFixture::pressRow(const char* name) const
     clickAtRest(row(name));
 }
 
+void ScanScreenFixture::pressHeading(const char* category) const
+{
+    QTRY_VERIFY2(heading(category), category);
+    clickAtRest(heading(category));
+}
+
 void ScanScreenFixture::key(Qt::Key key, Qt::KeyboardModifiers modifiers) const
 {
     QTest::keyClick(window(), key, modifiers);
@@ -114,6 +120,14 @@ void ScanScreenFixture::scan() const
     QTRY_VERIFY(named("Clean"));
 }
 
-QQuickItem* ScanScreenFixture::row(const char* name) const { return rowIn(window()->contentItem(), utf8(name)); }
+QQuickItem* ScanScreenFixture::row(const char* name) const
+{
+    return checkBoxIn(window()->contentItem(), "QQuickCheckDelegate", utf8(name));
+}
+
+QQuickItem* ScanScreenFixture::heading(const char* category) const
+{
+    return checkBoxIn(window()->contentItem(), "QQuickCheckBox", utf8(category));
+}
 
 } // namespace Korvane

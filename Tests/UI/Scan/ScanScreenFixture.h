@@ -33,7 +33,10 @@ private Q_SLOTS:
 protected:
     QQuickWindow* window() const { return m_app->mainWindow(); }
     QQuickItem* named(const char* name) const { return control(window(), utf8(name)); }
+    /// The check box of a found item, as tall as its row; null when it cannot be seen.
     QQuickItem* row(const char* name) const;
+    /// The check box in the heading of a category; null when it cannot be seen.
+    QQuickItem* heading(const char* category) const;
     Tick tick(const char* name) const;
     bool shows(const QString& text) const { return visibleTexts(window()).contains(text); }
     std::filesystem::path home() const { return m_test->host.environment.home; }
@@ -42,6 +45,7 @@ protected:
     /// Each presses once the control has come to rest and is enabled.
     void press(const char* name) const;
     void pressRow(const char* name) const;
+    void pressHeading(const char* category) const;
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
     /// Presses Tab until the control has the focus.
     void tabTo(const char* name) const;
