@@ -45,6 +45,8 @@ Text {
     color: Theme.label
     elide: Text.ElideRight
     textFormat: Text.PlainText
+    // Columns keep their edge: by itself a name written from right to left would go to the other one.
+    horizontalAlignment: Text.AlignLeft
     font.family: Theme.fontFamily
     font.pixelSize: label.pixels(label.style)
     font.weight: label.style <= Label.Title ? Font.Bold

@@ -13,6 +13,9 @@ ListView {
     id: list
 
     required property ScanViewModel viewModel
+    /// Makes the headings. Not to be created in this file: when Qt 6.4 uses a heading again it looks for "section" in the
+    /// context of the component, finds the list's own there, and leaves the heading with the title of another category.
+    required property Component heading
     /// Whether the keyboard was used last, so that the current row shows it.
     property bool byKeyboard: false
 
@@ -41,8 +44,7 @@ ListView {
 
     section.property: "category"
     section.labelPositioning: ViewSection.InlineLabels | ViewSection.CurrentLabelAtStart
-    // With a parent, because the list does not keep its heading's component from being collected as garbage.
-    section.delegate: Qt.createComponent(Qt.resolvedUrl("CategoryHeading.qml"), Component.PreferSynchronous, list)
+    section.delegate: list.heading
 
     delegate: ResultRow {
         width: list.width

@@ -37,6 +37,8 @@ FocusScope {
             anchors.margins: 1
             focus: true
             viewModel: view.viewModel
+            // With a parent, because the list does not keep its heading's component from being collected as garbage.
+            heading: Qt.createComponent(Qt.resolvedUrl("CategoryHeading.qml"), Component.PreferSynchronous, view)
         }
     }
     Item {
