@@ -30,7 +30,8 @@ public:
     std::string_view name() const noexcept { return m_name; }
     EntryType type() const noexcept { return m_type; }
 
-    /// Whether the folder is one that the platform shows as a single file (see Platform/PackageExtensions.h).
+    /// Whether the folder is one that the platform shows as a single file: by its extension (see
+    /// Platform/PackageExtensions.h) or, on macOS, by its Finder information.
     bool isPackage() const noexcept { return m_isPackage; }
 
     /// False when the values that were asked for could not be read; the entry then has a name and nothing else.

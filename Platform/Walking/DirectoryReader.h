@@ -18,6 +18,7 @@ struct ListedEntry {
     const char* name = nullptr;
     EntryType type = EntryType::Unknown;
     bool isHidden = false;
+    bool isMarkedAsPackage = false; ///< A folder that the host shows as one file, whatever its name.
     bool hasValues = true; ///< False once values were asked for and could not be read.
     std::int64_t allocatedSize = 0;
     std::int64_t fileSize = 0;

@@ -33,8 +33,8 @@ attrlist wantedAttributes()
 {
     attrlist wanted{};
     wanted.bitmapcount = ATTR_BIT_MAP_COUNT;
-    wanted.commonattr = ATTR_CMN_RETURNED_ATTRS | ATTR_CMN_NAME | ATTR_CMN_OBJTYPE | ATTR_CMN_MODTIME | ATTR_CMN_FLAGS
-        | ATTR_CMN_ERROR;
+    wanted.commonattr = ATTR_CMN_RETURNED_ATTRS | ATTR_CMN_NAME | ATTR_CMN_OBJTYPE | ATTR_CMN_MODTIME
+        | ATTR_CMN_FNDRINFO | ATTR_CMN_FLAGS | ATTR_CMN_ERROR;
     wanted.fileattr = ATTR_FILE_ALLOCSIZE | ATTR_FILE_DATALENGTH;
     return wanted;
 }
@@ -77,6 +77,13 @@ private:
     const char* m_position;
 };
 
+/// What ATTR_CMN_FNDRINFO gives: FolderInfo or FileInfo and what extends it, in big-endian order; see getattrlist(2).
+using FinderInfo = std::array<unsigned char, 32>;
+
+/// Whether the Finder shows the folder as one file, whatever its name: kHasBundle (0x2000) of the flags, which begin at
+/// byte 8 of both FolderInfo and FileInfo (Finder.h).
+bool hasBundleBit(const FinderInfo& info) { return (info[8] & 0x20U) != 0; }
+
 void takeCommon(RecordValues& values, attrgroup_t returned, ListedEntry& entry)
 {
     // The error of the entry comes before all values but the set of those returned.
@@ -90,6 +97,8 @@ void takeCommon(RecordValues& values, attrgroup_t returned, ListedEntry& entry)
         entry.type = typeOfObject(values.take<fsobj_type_t>());
     if ((returned & ATTR_CMN_MODTIME) != 0)
         entry.modified = nanosecondsOf(values.take<timespec>());
+    if ((returned & ATTR_CMN_FNDRINFO) != 0)
+        entry.isMarkedAsPackage = hasBundleBit(values.take<FinderInfo>()) && entry.type == EntryType::Directory;
     if ((returned & ATTR_CMN_FLAGS) != 0)
         entry.isHidden = (values.take<std::uint32_t>() & UF_HIDDEN) != 0;
 }

@@ -247,7 +247,7 @@ void ReadAhead::addEntry(ListingPart& part, int descriptor, ListedEntry& listed,
     entry.isSizeSet = listed.hasValues && wanted != Wanted::Type;
     entry.areValuesSet = listed.hasValues && wanted == Wanted::All;
     if (listed.type == EntryType::Directory) {
-        entry.isPackage = hasPackageExtension(name);
+        entry.isPackage = listed.isMarkedAsPackage || hasPackageExtension(name);
         entry.isEntered = m_rules.isEntered(*part.folder, name, entry.isPackage);
         if (entry.isEntered)
             desk.subfolders.push_back(std::make_shared<ListingPart>(WalkFolder::makeChild(part.folder, name)));
