@@ -24,7 +24,7 @@ debian_packages=(
 debian_test_packages=(
     libgtest-dev libgmock-dev qml6-module-qttest
     xvfb xauth openbox xdotool imagemagick procps
-    libglib2.0-bin gvfs trash-cli
+    libglib2.0-bin gvfs trash-cli erofs-utils
     desktop-file-utils appstream dpkg-dev
 )
 debian_bench_packages=(libbenchmark-dev strace rdfind rmlint fdupes jdupes)
@@ -38,7 +38,7 @@ fedora_packages=(
 fedora_test_packages=(
     gtest-devel gmock-devel
     xorg-x11-server-Xvfb xorg-x11-xauth openbox xdotool ImageMagick procps-ng
-    glib2 gvfs trash-cli
+    glib2 gvfs trash-cli erofs-utils
     desktop-file-utils appstream
 )
 fedora_bench_packages=(google-benchmark-devel strace rdfind rmlint fdupes jdupes)
@@ -51,7 +51,7 @@ arch_packages=(
 arch_test_packages=(
     gtest
     xorg-server-xvfb xorg-xauth openbox xdotool imagemagick procps-ng
-    glib2 gvfs trash-cli
+    glib2 gvfs trash-cli erofs-utils
     desktop-file-utils appstream
 )
 arch_bench_packages=(benchmark strace rdfind rmlint fdupes jdupes)
