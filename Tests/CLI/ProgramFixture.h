@@ -25,7 +25,6 @@ protected:
     }
 
     std::filesystem::path home() const { return folder / "home"; }
-    std::filesystem::path trashed(const std::string& name) const { return home() / ".local/share/Trash/files" / name; }
 
     std::filesystem::path makeLog(const std::string& name, std::size_t bytes = 5000) const
     {

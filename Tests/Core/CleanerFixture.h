@@ -7,6 +7,7 @@
 #include "Tests/Core/ForwardingFileManager.h"
 #include "Tests/Core/ScanFixture.h"
 #include "Tests/Support/Sentinel.h"
+#include "Tests/Support/TestTrash.h"
 
 namespace Korvane {
 
@@ -40,7 +41,7 @@ protected:
         return home() / relative;
     }
 
-    std::filesystem::path freedesktopTrash() { return host().files->additionalTrashDirectories().at(0); }
+    std::filesystem::path trashed(const char* name) { return testTrash(host().environment) / name; }
 
     Sentinel sentinel;
     ForwardingFileManager files;

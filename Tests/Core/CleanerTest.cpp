@@ -33,8 +33,8 @@ TEST_F(CleanerTest, OrdinaryFileEndsUpInTheTrash)
     const auto result = clean({ item(file, 4096) }, Removal::MoveToTrash);
     EXPECT_EQ(result, (Cleaner::Result{ 4096, 1, {} }));
     EXPECT_FALSE(std::filesystem::exists(file));
-    EXPECT_EQ(readFile(freedesktopTrash() / "files/old.log"), "content");
-    EXPECT_TRUE(std::filesystem::exists(freedesktopTrash() / "info/old.log.trashinfo"));
+    EXPECT_EQ(readFile(trashed("old.log")), "content");
+    EXPECT_TRUE(isInTestTrash(host().environment, "old.log"));
 }
 
 TEST_F(CleanerTest, OrdinaryFileIsGoneWhenDeleted)
@@ -43,7 +43,7 @@ TEST_F(CleanerTest, OrdinaryFileIsGoneWhenDeleted)
     const auto result = clean({ item(file, 4096) }, Removal::Delete);
     EXPECT_EQ(result, (Cleaner::Result{ 4096, 1, {} }));
     EXPECT_FALSE(std::filesystem::exists(file));
-    EXPECT_FALSE(std::filesystem::exists(freedesktopTrash() / "files/old.log"));
+    EXPECT_FALSE(std::filesystem::exists(trashed("old.log")));
 }
 
 TEST_F(CleanerTest, VanishedItemFailsWithThePlatformsTextAndTheOthersAreCleaned)

@@ -72,13 +72,5 @@ TEST_F(FileManagerTest, RemovesATreeButNotWhatItsLinksName)
     EXPECT_EQ(sentinel.difference(), "");
 }
 
-TEST_F(FileManagerTest, MovesAFileToTheTrashWithItsRecord)
-{
-    writeFile(m_environment.home / "a b", "content");
-    const auto moved = m_files->trashItem(m_environment.home / "a b");
-    EXPECT_FALSE(std::filesystem::exists(m_environment.home / "a b"));
-    EXPECT_EQ(readFile(moved), "content");
-}
-
 } // namespace
 } // namespace Korvane

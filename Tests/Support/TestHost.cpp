@@ -3,13 +3,15 @@
 
 #include "Tests/Support/TestHost.h"
 
+#include "Tests/Support/TestTrash.h"
+
 namespace Korvane {
 
 TestHost makeTestHost(const TemporaryFolder& folder)
 {
     const auto environment = Environment::inFolder(folder.path());
     auto workspace = std::make_shared<TestWorkspace>();
-    Host host{ environment, makeFileManager(environment), workspace, makeUserDefaults(environment) };
+    Host host{ environment, makeTestFileManager(environment), workspace, makeUserDefaults(environment) };
     return { std::move(host), std::move(workspace) };
 }
 

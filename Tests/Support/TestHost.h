@@ -11,7 +11,7 @@
 
 namespace Korvane {
 
-/// A host with real files and preferences in a home of a test's own, and a desktop that the test plays.
+/// A host with real files, a Trash and preferences in a home of a test's own, and a desktop that the test plays.
 struct TestHost {
     Host host;
     std::shared_ptr<TestWorkspace> workspace; ///< The same as in `host`.

@@ -5,6 +5,7 @@
 #include "Core/Scanning/FormattedBytes.h"
 #include "Tests/Support/Sentinel.h"
 #include "Tests/Support/TestHost.h"
+#include "Tests/Support/TestTrash.h"
 #include "Tests/UI/Scan/GatedFileManager.h"
 #include "Tests/UI/Scan/PlainNavigation.h"
 #include "Tests/UI/Scan/ScriptedScanner.h"
@@ -43,7 +44,7 @@ private Q_SLOTS:
     void copiesAPathByteForByte();
 
 private:
-    std::filesystem::path trash() const { return m_host->host.environment.dataHome() / "Trash"; }
+    std::filesystem::path trashed(const char* path) const { return testTrash(m_host->host.environment) / path; }
     ScanItem cache(const std::string& name, bool selectable = true);
     void scan(std::vector<ScanItem> items);
     void setBool(std::string_view key, bool value) { QVERIFY(m_host->host.defaults->setBool(key, value)); }
@@ -111,8 +112,8 @@ void ScanCleaningTest::withoutConfirmationMovesToTheTrashAtOnce()
     QTRY_COMPARE(m_model->phase(), Phase::Cleaned);
     QCOMPARE(asked.count(), 0);
     QVERIFY(!std::filesystem::exists(item.url));
-    QVERIFY(std::filesystem::exists(trash() / "files/one/data"));
-    QVERIFY(std::filesystem::exists(trash() / "info/one.trashinfo"));
+    QVERIFY(std::filesystem::exists(trashed("one/data")));
+    QVERIFY(isInTestTrash(m_host->host.environment, "one"));
 }
 
 void ScanCleaningTest::withoutConfirmationDeletesAtOnceIfPreferred()
@@ -124,7 +125,7 @@ void ScanCleaningTest::withoutConfirmationDeletesAtOnceIfPreferred()
     m_model->requestClean();
     QTRY_COMPARE(m_model->phase(), Phase::Cleaned);
     QVERIFY(!std::filesystem::exists(item.url));
-    QVERIFY(!std::filesystem::exists(trash() / "files/one"));
+    QVERIFY(!std::filesystem::exists(trashed("one")));
 }
 
 void ScanCleaningTest::recordsThisRunAndNotATotal()
@@ -233,8 +234,8 @@ void ScanCleaningTest::aCleaningOutlivesItsScreenAndIsRecorded()
     gated->gate.release(2);
     const std::int64_t bytes = items[0].sizeInBytes + items[1].sizeInBytes;
     QTRY_COMPARE(m_host->host.defaults->integerForKey(PreferenceKeys::lastCleanedBytes, 0), bytes);
-    QVERIFY(std::filesystem::exists(trash() / "files/one/data"));
-    QVERIFY(std::filesystem::exists(trash() / "files/two/data"));
+    QVERIFY(std::filesystem::exists(trashed("one/data")));
+    QVERIFY(std::filesystem::exists(trashed("two/data")));
 }
 
 void ScanCleaningTest::aScanBegunMeanwhileIsNotOverwritten()

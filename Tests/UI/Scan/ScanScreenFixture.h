@@ -6,6 +6,7 @@
 #include "App/KorvaneApp.h"
 #include "Tests/Support/Sentinel.h"
 #include "Tests/Support/TestHost.h"
+#include "Tests/Support/TestTrash.h"
 #include "Tests/UI/Support/QmlWarnings.h"
 #include "Tests/UI/Support/Screen.h"
 
@@ -40,7 +41,7 @@ protected:
     Tick tick(const char* name) const;
     bool shows(const QString& text) const { return visibleTexts(window()).contains(text); }
     std::filesystem::path home() const { return m_test->host.environment.home; }
-    std::filesystem::path trash() const { return m_test->host.environment.dataHome() / "Trash"; }
+    std::filesystem::path trashed(const char* path) const { return testTrash(m_test->host.environment) / path; }
 
     /// Each presses once the control has come to rest and is enabled.
     void press(const char* name) const;

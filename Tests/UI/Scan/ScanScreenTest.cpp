@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "Core/Scanning/FormattedBytes.h"
+#include "Platform/FileError.h"
 #include "Tests/UI/Scan/HeldScan.h"
 #include "Tests/UI/Scan/ScanScreenFixture.h"
 #include "UI/Background.h"
@@ -60,11 +61,9 @@ void ScanScreenTest::scansTogglesCleansAndFindsItInTheTrash()
     press("Move to Trash");
     QTRY_VERIFY(named("Scan Again"));
     QVERIFY(shows("3 items moved to Trash or removed"));
-    for (const char* name : { "org.example.maps", "org.example.mail", "example.log" }) {
-        QVERIFY2(fs::exists(trash() / "files" / name), name);
-        QVERIFY2(fs::exists(trash() / "info" / (std::string(name) + ".trashinfo")), name);
-    }
-    QVERIFY(fs::exists(trash() / "files/org.example.maps/tiles/1.png"));
+    for (const char* name : { "org.example.maps", "org.example.mail", "example.log" })
+        QVERIFY2(isInTestTrash(m_test->host.environment, name), name);
+    QVERIFY(fs::exists(trashed("org.example.maps/tiles/1.png")));
     QVERIFY(fs::exists(home() / "Library/Caches/com.apple.thumbnails/db"));
     QVERIFY(!fs::exists(home() / "Library/Caches/org.example.maps"));
     const std::int64_t bytes = m_test->host.defaults->integerForKey(PreferenceKeys::lastCleanedBytes, 0);
@@ -95,7 +94,7 @@ void ScanScreenTest::doesEverythingFromTheKeyboard()
     key(Qt::Key_Return);
     QTRY_VERIFY(named("Scan Again"));
     QVERIFY(shows("1 items moved to Trash or removed"));
-    QVERIFY(fs::exists(trash() / "files/org.example.mail/index"));
+    QVERIFY(fs::exists(trashed("org.example.mail/index")));
     QVERIFY(fs::exists(home() / "Library/Caches/org.example.maps/tiles/1.png"));
     QVERIFY(fs::exists(home() / "Library/Logs/example.log"));
 }
@@ -122,7 +121,7 @@ void ScanScreenTest::deletesForGoodWhenThePreferenceSaysSo()
     press("Delete Permanently");
     QTRY_VERIFY(named("Scan Again"));
     QVERIFY(!fs::exists(home() / "Library/Caches/org.example.maps"));
-    QVERIFY(!fs::exists(trash() / "files/org.example.maps"));
+    QVERIFY(!fs::exists(trashed("org.example.maps")));
 }
 
 void ScanScreenTest::aHomeWithoutJunkIsAllClean()
@@ -153,7 +152,8 @@ void ScanScreenTest::unfoldsWhatCouldNotBeRemovedAndWhy()
     key(Qt::Key_Return);
     const QString gone = QString::fromStdString((home() / "Library/Caches/org.example.maps").string());
     QTRY_VERIFY2(shows(gone), qPrintable(visibleTexts(window()).join(" | ")));
-    QVERIFY(shows("No such file or directory"));
+    const FileError reason(home(), std::make_error_code(std::errc::no_such_file_or_directory));
+    QVERIFY(shows(QString::fromStdString(reason.localizedDescription())));
     press("Hide Details");
     QTRY_VERIFY(!shows(gone));
 }
@@ -271,7 +271,7 @@ void ScanScreenTest::quittingWhileCleaningFinishesAndRecordsIt()
     finishBackgroundWork();
     QCOMPARE(m_test->host.defaults->integerForKey(PreferenceKeys::lastCleanedBytes, 0), bytes);
     QVERIFY(m_test->host.defaults->doubleForKey(PreferenceKeys::lastCleanedDate, 0.0) > 0.0);
-    QVERIFY(fs::exists(trash() / "files/org.example.maps/tiles/1.png"));
+    QVERIFY(fs::exists(trashed("org.example.maps/tiles/1.png")));
 }
 
 QTEST_MAIN(ScanScreenTest)
