@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Tests/UI/Scan/ScanScreenFixture.h"
+
+#include <QApplication>
+#include <QTest>
+
+using namespace Korvane;
+
+/// The dashboard in the smallest window, where not all of it is to be seen at once.
+class DashboardViewTest : public ScanScreenFixture {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whatTheKeyboardLeadsToIsSeenWhole();
+    void aPressOnACardThatIsCutOffOpensIt();
+
+private:
+    void makeSmall() const;
+    QQuickItem* dashboard() const;
+    bool isSeenWhole(const QQuickItem* item) const;
+};
+
+void DashboardViewTest::makeSmall() const
+{
+    // A file where a folder should be: access is missing, and the banner takes its share of the height.
+    writeFile(home() / "Library/Safari", "");
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive);
+    window()->resize(window()->minimumSize());
+    QTRY_COMPARE(window()->contentItem()->size().toSize(), window()->minimumSize());
+    QTRY_VERIFY(dashboard()->property("contentHeight").toReal() > dashboard()->height());
+}
+
+QQuickItem* DashboardViewTest::dashboard() const
+{
+    QQuickItem* item = controls(window(), utf8("Smart Scan")).first();
+    while (item != nullptr && !item->inherits("QQuickFlickable"))
+        item = item->parentItem();
+    return item;
+}
+
+bool DashboardViewTest::isSeenWhole(const QQuickItem* item) const
+{
+    const QRectF seen = dashboard()->mapRectToScene(QRectF(QPointF(), dashboard()->size()));
+    return seen.contains(item->mapRectToScene(QRectF(QPointF(), item->size())));
+}
+
+void DashboardViewTest::whatTheKeyboardLeadsToIsSeenWhole()
+{
+    makeSmall();
+    const QList<QQuickItem*> cards = controls(window(), utf8("iPhone & iPad"));
+    QCOMPARE(cards.size(), 2);
+    QVERIFY(!isSeenWhole(cards.last()));
+    for (const auto& [direction, modifiers] : { std::pair{ Qt::Key_Tab, Qt::KeyboardModifiers() },
+             std::pair{ Qt::Key_Backtab, Qt::KeyboardModifiers(Qt::ShiftModifier) } }) {
+        int reached = 0;
+        for (int presses = 0; presses < 40; ++presses) {
+            key(direction, modifiers);
+            QQuickItem* focused = window()->activeFocusItem();
+            QVERIFY(focused != nullptr);
+            if (!dashboard()->isAncestorOf(focused))
+                continue;
+            ++reached;
+            QTRY_VERIFY2(isSeenWhole(focused), qPrintable(accessibleName(focused)));
+        }
+        QVERIFY(reached >= 7);
+    }
+}
+
+void DashboardViewTest::aPressOnACardThatIsCutOffOpensIt()
+{
+    makeSmall();
+    QQuickItem* card = controls(window(), utf8("iPhone & iPad")).last();
+    const QPointF top = card->mapToScene(QPointF(card->width() / 2, 4));
+    QVERIFY(top.y() < window()->height());
+    QTest::mousePress(window(), Qt::LeftButton, Qt::NoModifier, top.toPoint());
+    QCOMPARE(dashboard()->property("contentY").toReal(), 0.0);
+    QTest::mouseRelease(window(), Qt::LeftButton, Qt::NoModifier, top.toPoint());
+    QTRY_VERIFY(m_app->state().selectedModule() == CleanerModule::iosDevice);
+}
+
+QTEST_MAIN(DashboardViewTest)
+#include "DashboardViewTest.moc"
