@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <string_view>
+
+namespace Korvane {
+
+/// Whether `part` occurs in `text`, both UTF-8, as a person who reads the user's language sees it: case does not count,
+/// accents do, and composed and decomposed letters are the same.
+///
+/// By ICU's string search with the collation of the user's locale at its secondary strength. An empty part, or one of
+/// nothing that collation sees, occurs in everything. Bytes that are not UTF-8 count as U+FFFD. Any thread.
+bool localizedCaseInsensitiveContains(std::string_view text, std::string_view part);
+
+} // namespace Korvane
