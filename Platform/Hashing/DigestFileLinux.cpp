@@ -11,6 +11,7 @@
 
 #include <fcntl.h>
 #include <sys/mman.h>
+#include <sys/stat.h>
 #include <sys/uio.h>
 #include <unistd.h>
 
@@ -24,14 +25,22 @@ constexpr int readFlags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOE
 /// has set it for the device (VM_READAHEAD_PAGES in linux/mm.h), and leaves out the rest.
 constexpr std::int64_t largestAdvice = 131'072;
 
+std::int64_t pageBytes()
+{
+    static const std::int64_t bytes = sysconf(_SC_PAGESIZE);
+    return bytes;
+}
+
 /// For each page of the range, in its lowest bit, whether it is in memory; nothing where that cannot be told.
-std::vector<unsigned char> residency(int descriptor, FileRange range, std::int64_t pageSize)
+///
+/// Of a file that the user neither owns nor may write the kernel says that all of it is (mincore(2)).
+std::vector<unsigned char> residency(int descriptor, FileRange range)
 {
     const auto length = static_cast<std::size_t>(range.count);
     void* const mapping = mmap(nullptr, length, PROT_READ, MAP_SHARED, descriptor, range.offset);
     if (mapping == MAP_FAILED)
         return {};
-    std::vector<unsigned char> pages(static_cast<std::size_t>((range.count + pageSize - 1) / pageSize));
+    std::vector<unsigned char> pages(static_cast<std::size_t>((range.count + pageBytes() - 1) / pageBytes()));
     if (mincore(mapping, length, pages.data()) != 0)
         pages.clear();
     munmap(mapping, length);
@@ -41,16 +50,43 @@ std::vector<unsigned char> residency(int descriptor, FileRange range, std::int64
 /// The parts of the range, in whole pages, that are not in memory.
 std::vector<FileRange> rangesNotInMemory(int descriptor, FileRange range)
 {
-    static const std::int64_t pageSize = sysconf(_SC_PAGESIZE);
-    const auto pages = residency(descriptor, range, pageSize);
+    const auto pages = residency(descriptor, range);
     const auto isHeld = [](unsigned char page) { return (page & 1U) != 0; };
     std::vector<FileRange> ranges;
     for (auto begin = std::find_if_not(pages.begin(), pages.end(), isHeld); begin != pages.end();) {
         const auto end = std::find_if(begin, pages.end(), isHeld);
-        ranges.push_back({ range.offset + (begin - pages.begin()) * pageSize, (end - begin) * pageSize });
+        ranges.push_back({ range.offset + (begin - pages.begin()) * pageBytes(), (end - begin) * pageBytes() });
         begin = std::find_if_not(end, pages.end(), isHeld);
     }
     return ranges;
+}
+
+bool isOwn(int descriptor)
+{
+    struct stat status { };
+    return fstat(descriptor, &status) == 0 && status.st_uid == geteuid();
+}
+
+/// Whether a read of each page, told not to wait for any, says that it would have to.
+///
+/// Some kernels fetch the page that was asked for nevertheless, and no other where reads are told to be random.
+bool isKnownToBeAbsent(int descriptor, FileRange range)
+{
+    for (auto offset = range.offset; offset < range.end(); offset += pageBytes()) {
+        char byte = 0;
+        iovec target{ &byte, 1 };
+        if (preadv2(descriptor, &target, 1, offset, RWF_NOWAIT) >= 0 || errno != EAGAIN)
+            return false;
+    }
+    return true;
+}
+
+void tellAheadOf(int descriptor, FileRange range, const Cancellation& cancellation)
+{
+    for (auto offset = range.offset; offset < range.end() && !cancellation.isCancelled(); offset += largestAdvice) {
+        const auto count = std::min(largestAdvice, range.end() - offset);
+        (void)posix_fadvise(descriptor, offset, count, POSIX_FADV_WILLNEED);
+    }
 }
 
 } // namespace
@@ -73,13 +109,18 @@ std::vector<FileRange> DigestFile::tellAhead(FileRange range, const Cancellation
     range.count = std::min(range.count, m_size - range.offset);
     if (range.count <= 0)
         return {};
-    const auto absent = rangesNotInMemory(m_descriptor.get(), range);
-    for (const auto& part : absent) {
-        for (auto offset = part.offset; offset < part.end() && !cancellation.isCancelled(); offset += largestAdvice) {
-            const auto count = std::min(largestAdvice, part.end() - offset);
-            (void)posix_fadvise(m_descriptor.get(), offset, count, POSIX_FADV_WILLNEED);
-        }
+    auto absent = rangesNotInMemory(m_descriptor.get(), range);
+    if (absent.empty() && !isOwn(m_descriptor.get())) {
+        // Where only a part is in memory, all of it is left there: a page that somebody uses may answer like one that
+        // has to be waited for.
+        range.count = (range.count + pageBytes() - 1) / pageBytes() * pageBytes();
+        if (isKnownToBeAbsent(m_descriptor.get(), range))
+            absent.push_back(range);
+        tellAheadOf(m_descriptor.get(), range, cancellation);
+        return absent;
     }
+    for (const auto& part : absent)
+        tellAheadOf(m_descriptor.get(), part, cancellation);
     return absent;
 }
 

@@ -1,12 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "Platform/Hashing/DigestFile.h"
 #include "Tests/Platform/DigestFixture.h"
 #include "Tests/Platform/PageCache.h"
+#include "Tests/Support/OrdinaryUser.h"
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <optional>
+#include <thread>
+
+#include <unistd.h>
 
 namespace Korvane {
 
@@ -31,6 +37,25 @@ protected:
         forget(path);
         EXPECT_EQ(pagesInMemory(path), 0U) << name;
         return path;
+    }
+};
+
+/// Files that the one who hashes them may read, and neither owns nor may write.
+class FileDigestOfOthersTest : public FileDigestCacheTest {
+protected:
+    void SetUp() override
+    {
+        FileDigestCacheTest::SetUp();
+        if (geteuid() != 0)
+            GTEST_SKIP() << "only root can make files that belong to somebody else";
+        std::filesystem::permissions(folder.path(), std::filesystem::perms(0755));
+    }
+
+    static std::size_t pageSize() { return static_cast<std::size_t>(sysconf(_SC_PAGESIZE)); }
+
+    static std::string hashAsOrdinaryUser(const std::filesystem::path& file, std::int64_t bytes)
+    {
+        return runAsOrdinaryUser([&] { return prefixHash(file, bytes).value_or("none"); });
     }
 };
 
@@ -111,6 +136,52 @@ TEST_F(FileDigestCacheTest, ScanThatIsGivenUpLeavesNothingInMemory)
     }
     // Later ones may be on their way from the disk still: nobody waits for them to throw them away.
     EXPECT_EQ(pagesInMemory(files[0]), 0U);
+}
+
+TEST_F(FileDigestOfOthersTest, ColdFilesAreNotInMemoryAfterwards)
+{
+    for (const std::size_t size : { std::size_t{ 1 }, std::size_t{ 5000 }, mebibyte, 9 * mebibyte + 1 }) {
+        const auto file = makeCold(std::to_string(size), size);
+        const auto hash = hashAsOrdinaryUser(file, prefix);
+        EXPECT_EQ(pagesInMemory(file), 0U) << size;
+        EXPECT_EQ(hash, prefixHash(file, prefix)) << size;
+    }
+    const auto file = makeCold("odd prefix", mebibyte);
+    hashAsOrdinaryUser(file, 5000);
+    EXPECT_EQ(pagesInMemory(file), 0U);
+}
+
+TEST_F(FileDigestOfOthersTest, FileThatWasInMemoryStays)
+{
+    const auto file = makeCold("file", 2 * mebibyte);
+    const auto content = readFile(file);
+    EXPECT_EQ(hashAsOrdinaryUser(file, prefix), prefixHash(file, prefix));
+    EXPECT_EQ(pagesInMemory(file), pagesOf(content.size()));
+}
+
+TEST_F(FileDigestOfOthersTest, FileOfWhichAPartWasInMemoryStays)
+{
+    for (const std::size_t offset : { std::size_t{ 0 }, mebibyte, 2 * mebibyte - pageSize() }) {
+        const auto file = makeCold("file", 2 * mebibyte);
+        readInto(file, offset, pageSize());
+        EXPECT_EQ(pagesInMemory(file), 1U);
+        hashAsOrdinaryUser(file, prefix);
+        EXPECT_EQ(pagesInMemory(file), pagesOf(2 * mebibyte)) << offset;
+    }
+}
+
+TEST_F(FileDigestOfOthersTest, SystemIsToldAhead)
+{
+    const auto file = makeCold("file", 2 * mebibyte);
+    const auto answer = runAsOrdinaryUser([&] {
+        const auto ranges = DigestFile(file).tellAhead({ 0, prefix }, {});
+        return std::to_string(ranges.size());
+    });
+    EXPECT_EQ(answer, "1");
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (pagesInMemory(file) < pagesOf(2 * mebibyte) && std::chrono::steady_clock::now() < end)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    EXPECT_EQ(pagesInMemory(file), pagesOf(2 * mebibyte));
 }
 
 } // namespace Korvane
