@@ -68,6 +68,7 @@ Environment Environment::current()
     environment.xdgCacheHome = baseDirectory("XDG_CACHE_HOME");
     environment.xdgConfigHome = baseDirectory("XDG_CONFIG_HOME");
     environment.xdgDataHome = baseDirectory("XDG_DATA_HOME");
+    environment.xdgStateHome = baseDirectory("XDG_STATE_HOME");
     return environment;
 }
 
@@ -76,6 +77,7 @@ Environment Environment::inFolder(const std::filesystem::path& folder)
     Environment environment;
     environment.home = folder / "home";
     environment.temporaryDirectory = folder / "tmp";
+    environment.applicationsDirectory = folder / "Applications";
     std::filesystem::create_directories(environment.home);
     std::filesystem::create_directories(environment.temporaryDirectory);
     return environment;
@@ -86,5 +88,7 @@ std::filesystem::path Environment::cacheHome() const { return xdgCacheHome.value
 std::filesystem::path Environment::configHome() const { return xdgConfigHome.value_or(home / ".config"); }
 
 std::filesystem::path Environment::dataHome() const { return xdgDataHome.value_or(home / ".local/share"); }
+
+std::filesystem::path Environment::stateHome() const { return xdgStateHome.value_or(home / ".local/state"); }
 
 } // namespace Korvane

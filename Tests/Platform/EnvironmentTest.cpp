@@ -69,6 +69,7 @@ TEST(Environment, TakesTheBaseDirectoriesOnlyWhenAbsolute)
     const EnvironmentVariable cache("XDG_CACHE_HOME", "/cache");
     const EnvironmentVariable config("XDG_CONFIG_HOME", "config");
     const EnvironmentVariable data("XDG_DATA_HOME", std::nullopt);
+    const EnvironmentVariable state("XDG_STATE_HOME", "/state");
     const EnvironmentVariable home("HOME", "/h");
     const auto environment = Environment::current();
     EXPECT_EQ(environment.xdgCacheHome, "/cache");
@@ -77,6 +78,13 @@ TEST(Environment, TakesTheBaseDirectoriesOnlyWhenAbsolute)
     EXPECT_EQ(environment.configHome(), "/h/.config");
     EXPECT_EQ(environment.xdgDataHome, std::nullopt);
     EXPECT_EQ(environment.dataHome(), "/h/.local/share");
+    EXPECT_EQ(environment.xdgStateHome, "/state");
+    EXPECT_EQ(environment.stateHome(), "/state");
+}
+
+TEST(Environment, FindsTheApplicationsOfAllUsersWhereThePlatformHasThem)
+{
+    EXPECT_EQ(Environment::current().applicationsDirectory, "/Applications");
 }
 
 #ifndef __APPLE__
@@ -104,6 +112,8 @@ TEST(Environment, InAFolderKeepsEverythingInsideIt)
     EXPECT_EQ(environment.cacheHome(), folder / "home/.cache");
     EXPECT_EQ(environment.configHome(), folder / "home/.config");
     EXPECT_EQ(environment.dataHome(), folder / "home/.local/share");
+    EXPECT_EQ(environment.stateHome(), folder / "home/.local/state");
+    EXPECT_EQ(environment.applicationsDirectory, folder / "Applications");
     EXPECT_TRUE(std::filesystem::is_directory(environment.home));
     EXPECT_TRUE(std::filesystem::is_directory(environment.temporaryDirectory));
 }
