@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace Korvane {
@@ -13,5 +14,8 @@ namespace Korvane {
 /// By ICU's string search with the collation of the user's locale at its secondary strength. An empty part, or one of
 /// nothing that collation sees, occurs in everything. Bytes that are not UTF-8 count as U+FFFD. Any thread.
 bool localizedCaseInsensitiveContains(std::string_view text, std::string_view part);
+
+/// The same for a reader of another language; `locale` is named as ICU does ("de_DE", "tr").
+bool localizedCaseInsensitiveContains(std::string_view text, std::string_view part, const std::string& locale);
 
 } // namespace Korvane

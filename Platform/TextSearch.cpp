@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Platform/TextSearch.h"
+
+#include "Platform/LowerCase.h"
+#include "Platform/UserLocale.h"
+
+#include <memory>
+
+#include <unicode/coll.h>
+#include <unicode/stringpiece.h>
+#include <unicode/stsearch.h>
+#include <unicode/tblcoll.h>
+
+namespace Korvane {
+
+namespace {
+
+/// The reader's language. The plain locale of POSIX compares code points: for a reader that is English.
+icu::Locale readersLocale(const std::string& name)
+{
+    const icu::Locale locale(name.c_str());
+    if (locale.isBogus())
+        return icu::Locale::getRoot();
+    return std::string_view(locale.getVariant()) == "POSIX" ? icu::Locale::getEnglish() : locale;
+}
+
+/// The collator of a language for searching; nothing when ICU has no data at all.
+std::unique_ptr<icu::Collator> searchCollator(const icu::Locale& locale)
+{
+    UErrorCode error = U_ZERO_ERROR;
+    std::unique_ptr<icu::Collator> collator(icu::Collator::createInstance(locale, error));
+    if (U_FAILURE(error))
+        return nullptr;
+    collator->setStrength(icu::Collator::SECONDARY);
+    collator->setAttribute(UCOL_NORMALIZATION_MODE, UCOL_ON, error);
+    return collator;
+}
+
+/// The text without differences of case. Collation alone would tell a sharp s from two letters.
+icu::UnicodeString folded(std::string_view text, const icu::Locale& locale)
+{
+    const std::string_view language = locale.getLanguage();
+    const bool hasDotlessI = language == "tr" || language == "az";
+    auto unicode = icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<int32_t>(text.size())));
+    return unicode.foldCase(hasDotlessI ? U_FOLD_CASE_EXCLUDE_SPECIAL_I : U_FOLD_CASE_DEFAULT);
+}
+
+/// Without collation data: what the rules of Unicode for no particular language say.
+bool containsPlainly(std::string_view text, std::string_view part)
+{
+    return lowercased(text).find(lowercased(part)) != std::string::npos;
+}
+
+} // namespace
+
+bool localizedCaseInsensitiveContains(std::string_view text, std::string_view part)
+{
+    return localizedCaseInsensitiveContains(text, part, userLocaleName());
+}
+
+bool localizedCaseInsensitiveContains(std::string_view text, std::string_view part, const std::string& locale)
+{
+    const auto language = readersLocale(locale);
+    const auto collator = searchCollator(language);
+    auto* const rules = dynamic_cast<icu::RuleBasedCollator*>(collator.get());
+    if (rules == nullptr)
+        return containsPlainly(text, part);
+    UErrorCode error = U_ZERO_ERROR;
+    const auto pattern = folded(part, language);
+    if (rules->compare(pattern, icu::UnicodeString(), error) == UCOL_EQUAL)
+        return true;
+    const auto searched = folded(text, language);
+    if (searched.isEmpty())
+        return false;
+    icu::StringSearch search(pattern, searched, rules, nullptr, error);
+    const auto found = search.first(error);
+    return U_SUCCESS(error) ? found != USEARCH_DONE : containsPlainly(text, part);
+}
+
+} // namespace Korvane

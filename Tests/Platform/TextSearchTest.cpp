@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Platform/TextSearch.h"
+
+#include <gtest/gtest.h>
+
+namespace Korvane {
+namespace {
+
+bool contains(std::string_view text, std::string_view part, const std::string& locale = "en_US")
+{
+    return localizedCaseInsensitiveContains(text, part, locale);
+}
+
+TEST(TextSearch, LooksAwayFromCase)
+{
+    EXPECT_TRUE(contains("Voicemail Tool", "MAIL"));
+    EXPECT_TRUE(contains("Mail", "MAIL"));
+    EXPECT_TRUE(contains("MAIL", "mail"));
+    EXPECT_FALSE(contains("Mall", "MAIL"));
+    EXPECT_FALSE(contains("Ma il", "mail"));
+    EXPECT_TRUE(contains("Ärger", "äRG", "de_DE"));
+    EXPECT_TRUE(contains("ΑΘΗΝΑ", "αθηνα", "el"));
+    EXPECT_TRUE(localizedCaseInsensitiveContains("Korvane", "VAN"));
+}
+
+TEST(TextSearch, LooksAtAccents)
+{
+    EXPECT_FALSE(contains("Café", "cafe"));
+    EXPECT_FALSE(contains("Cafe", "café"));
+    EXPECT_FALSE(contains("Cafe\u0301", "cafe"));
+    EXPECT_FALSE(contains("Ärger", "arger", "de_DE"));
+}
+
+TEST(TextSearch, TakesComposedAndDecomposedLettersForTheSame)
+{
+    EXPECT_TRUE(contains("Cafe\u0301 Noir", "CAFÉ"));
+    EXPECT_TRUE(contains("Café Noir", "CAFE\u0301"));
+    EXPECT_TRUE(contains("Cafe\u0301", "\u00C9"));
+    EXPECT_FALSE(contains("Cafe\u0301", "e"));
+}
+
+TEST(TextSearch, ReadsSharpSAsTwo)
+{
+    EXPECT_TRUE(contains("Straßenkarte", "STRASSE", "de_DE"));
+    EXPECT_TRUE(contains("STRASSENKARTE", "straße", "de_DE"));
+}
+
+TEST(TextSearch, KnowsTheLettersOfTurkish)
+{
+    EXPECT_TRUE(contains("KIRMIZI", "kırmızı", "tr"));
+    EXPECT_TRUE(contains("İstanbul", "istanbul", "tr"));
+    EXPECT_FALSE(contains("KIRMIZI", "kirmizi", "tr"));
+    EXPECT_TRUE(contains("KIRMIZI", "kirmizi", "en_US"));
+}
+
+TEST(TextSearch, FindsAnEmptyPartEverywhere)
+{
+    EXPECT_TRUE(contains("Mail", ""));
+    EXPECT_TRUE(contains("", ""));
+    EXPECT_TRUE(contains("Mail", "\u200D"));
+    EXPECT_FALSE(contains("", "mail"));
+}
+
+TEST(TextSearch, ComesToNoHarmWithBytesThatAreNoText)
+{
+    EXPECT_TRUE(contains("Ed\xFFitor", "ITOR"));
+    EXPECT_FALSE(contains("Editor", "\xFF"));
+    EXPECT_TRUE(contains("Ed\xFFitor", "\xFE"));
+    EXPECT_TRUE(contains(std::string("Ed\0itor", 7), "or"));
+    EXPECT_FALSE(contains("\xC3", "a"));
+}
+
+TEST(TextSearch, ServesALocaleThatIsNone)
+{
+    EXPECT_TRUE(contains("Mail", "MAI", "no such locale"));
+    EXPECT_TRUE(contains("Mail", "MAI", ""));
+}
+
+} // namespace
+} // namespace Korvane
