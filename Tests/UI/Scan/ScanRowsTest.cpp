@@ -8,6 +8,36 @@
 
 using namespace Korvane;
 
+namespace {
+
+/// Whether a row lies in its list below the heading that stays at the top, and is not one kept to be used again.
+bool isShown(QQuickItem* row)
+{
+    constexpr double headingHeight = 44;
+    QQuickItem* list = row->parentItem()->parentItem();
+    QQuickItem* shown = nullptr;
+    QMetaObject::invokeMethod(
+        list, "itemAtIndex", Q_RETURN_ARG(QQuickItem*, shown), Q_ARG(int, row->property("index").toInt()));
+    const double top = row->mapToItem(list, QPointF()).y();
+    return shown == row && top >= headingHeight && top < list->height();
+}
+
+/// The rows and headings of the list that can be seen.
+void collectRows(QQuickItem* item, QList<QQuickItem*>& headings, QList<QQuickItem*>& rows)
+{
+    if (!item->isVisible())
+        return;
+    const bool isRow = item->inherits("QQuickCheckDelegate") && item->property("category").isValid();
+    if (isRow && isShown(item))
+        rows.append(item);
+    if (!isRow && item->property("section").userType() == QMetaType::QString)
+        headings.append(item);
+    for (QQuickItem* child : item->childItems())
+        collectRows(child, headings, rows);
+}
+
+} // namespace
+
 /// What rows and the keyboard can do.
 class ScanRowsTest : public ScanScreenFixture {
     Q_OBJECT
@@ -19,10 +49,13 @@ private Q_SLOTS:
     void aSetOfDuplicatesStandsUnderItsLabelWithTheOriginalFirst();
     void theHeadingOfASetNeverTicksTheOriginal();
     void theKeyboardFollowsToTheScreenThatItOpened();
+    void everyRowIsUnderTheHeadingOfItsSetWhereverTheListGoes();
 
 private:
     /// Scans a home with one set of three equal songs, the oldest of which is "song.flac".
     void scanSongs() const;
+    /// Compares each row that can be seen with the heading above it.
+    void verifyHeadings() const;
 
     const char* songs = "song.flac \u2014 3 copies, 1.2 MB each";
 };
@@ -157,6 +190,53 @@ void ScanRowsTest::theKeyboardFollowsToTheScreenThatItOpened()
     key(Qt::Key_Return);
     QTRY_COMPARE(accessibleName(window()->activeFocusItem()), utf8("Start Scan"));
     QVERIFY(window()->activeFocusItem()->property("visualFocus").toBool());
+}
+
+void ScanRowsTest::verifyHeadings() const
+{
+    QList<QQuickItem*> headings;
+    QList<QQuickItem*> rows;
+    collectRows(window()->contentItem(), headings, rows);
+    int compared = 0;
+    for (const QQuickItem* row : std::as_const(rows)) {
+        const double top = row->mapToScene(QPointF()).y();
+        const QQuickItem* nearest = nullptr;
+        for (const QQuickItem* heading : std::as_const(headings)) {
+            const double y = heading->mapToScene(QPointF()).y();
+            if (y < top && (!nearest || y > nearest->mapToScene(QPointF()).y()))
+                nearest = heading;
+        }
+        if (!nearest)
+            continue;
+        QCOMPARE(nearest->property("section").toString(), row->property("category").toString());
+        ++compared;
+    }
+    QVERIFY2(compared > 4, qPrintable(QString::number(rows.size()) + " rows"));
+}
+
+void ScanRowsTest::everyRowIsUnderTheHeadingOfItsSetWhereverTheListGoes()
+{
+    for (int set = 0; set < 30; ++set) {
+        const std::string content(1'100'000 + 1'000 * static_cast<std::size_t>(set), 'a');
+        writeFile(home() / "One" / ("song " + std::to_string(set)), content);
+        writeFile(home() / "Two" / ("song " + std::to_string(set)), content);
+    }
+    press("Duplicates");
+    press("Start Scan");
+    QTRY_VERIFY(named("Clean"));
+    tabTo("Rescan");
+    key(Qt::Key_Tab);
+    const std::vector<Qt::Key> moves{ Qt::Key_End, Qt::Key_Home, Qt::Key_PageDown, Qt::Key_PageDown, Qt::Key_PageDown,
+        Qt::Key_PageUp, Qt::Key_End, Qt::Key_PageUp, Qt::Key_Home };
+    QTest::qWait(150);
+    verifyHeadings();
+    for (const Qt::Key move : moves) {
+        key(move);
+        QTest::qWait(150);
+        verifyHeadings();
+        if (QTest::currentTestFailed())
+            return;
+    }
 }
 
 QTEST_MAIN(ScanRowsTest)
