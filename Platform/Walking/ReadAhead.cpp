@@ -267,10 +267,9 @@ void ReadAhead::publish(ListingPart& part, std::size_t bytesAhead)
         insert(*subfolder, part.before, &part);
     m_unread += part.subfolders.size();
     unlink(part);
-    const bool isAwaited = m_awaited == &part;
     part.state.store(State::Read, std::memory_order_release);
     inviteReader();
-    if (isAwaited)
+    if (m_awaited == &part)
         m_partRead.notify_one();
 }
 
