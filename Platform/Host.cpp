@@ -7,7 +7,8 @@ namespace Korvane {
 
 Host makeHost(const Environment& environment)
 {
-    return { environment, makeFileManager(environment), makeWorkspace(environment), makeUserDefaults(environment) };
+    return { environment, makeFileManager(environment), makeWorkspace(environment), makeUserDefaults(environment),
+        makeApplicationCatalog(environment) };
 }
 
 } // namespace Korvane

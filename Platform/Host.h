@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Platform/ApplicationCatalog.h"
 #include "Platform/Environment.h"
 #include "Platform/FileManager.h"
 #include "Platform/UserDefaults.h"
@@ -20,6 +21,7 @@ struct Host {
     std::shared_ptr<FileManager> files;
     std::shared_ptr<Workspace> workspace;
     std::shared_ptr<UserDefaults> defaults;
+    std::shared_ptr<ApplicationCatalog> applications;
 };
 
 /// The host of this machine in the places of `environment`.

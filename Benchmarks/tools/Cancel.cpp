@@ -95,7 +95,7 @@ int main(int count, char** arguments)
     environment.temporaryDirectory = folder / "tmp";
     environment.xdgCacheHome = folder; // The scan of system junk measures what lies in the folder of caches.
     const Korvane::Host host{ environment, Korvane::makeFileManager(environment), Korvane::makeWorkspace(environment),
-        nullptr };
+        nullptr, nullptr };
     const Korvane::ProgressHandler silent = [](const Korvane::ScanProgress&) {};
 
     measure(

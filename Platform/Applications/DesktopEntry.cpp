@@ -3,8 +3,11 @@
 
 #include "Platform/Applications/DesktopEntry.h"
 
+#include "Platform/SmallFile.h"
+
 #include <algorithm>
 #include <map>
+#include <system_error>
 
 namespace Korvane {
 
@@ -135,7 +138,41 @@ std::optional<DesktopEntry> parseDesktopEntry(std::string_view text)
     if (valueOf(group, "Type") != "Application")
         return std::nullopt;
     return DesktopEntry{ argumentsOf(valueOf(group, "Exec")), valueOf(group, "StartupWMClass"),
-        valueOf(group, "Hidden") == "true" };
+        valueOf(group, "Hidden") == "true", valueOf(group, "Name"), valueOf(group, "Icon") };
+}
+
+std::vector<std::string> DesktopEntry::command() const
+{
+    if (arguments.empty() || std::filesystem::path(arguments.front()).filename() != "env")
+        return arguments;
+    const auto program = std::find_if(arguments.begin() + 1, arguments.end(),
+        [](const auto& argument) { return !argument.starts_with('-') && argument.find('=') == std::string::npos; });
+    return { program, arguments.end() };
+}
+
+std::optional<DesktopEntry> readDesktopEntry(const std::filesystem::path& file)
+{
+    constexpr std::size_t largestEntry = 1 << 20;
+    const auto text = contentsOfSmallFile(file, largestEntry);
+    return text ? parseDesktopEntry(*text) : std::nullopt;
+}
+
+void visitDesktopEntries(const std::filesystem::path& folder, const DesktopEntryVisitor& visit)
+{
+    using std::filesystem::directory_options;
+    constexpr int deepestFolder = 8;
+    std::error_code error;
+    auto entry
+        = std::filesystem::recursive_directory_iterator(folder, directory_options::skip_permission_denied, error);
+    for (; !error && entry != std::filesystem::recursive_directory_iterator(); entry.increment(error)) {
+        if (entry.depth() >= deepestFolder)
+            entry.disable_recursion_pending();
+        if (entry->path().extension() != ".desktop")
+            continue;
+        std::string id = entry->path().lexically_relative(folder).replace_extension().native();
+        std::replace(id.begin(), id.end(), '/', '-');
+        visit(id, entry->path());
+    }
 }
 
 } // namespace Korvane

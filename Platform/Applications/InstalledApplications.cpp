@@ -5,7 +5,6 @@
 
 #include "Platform/Applications/Interpreters.h"
 #include "Platform/LowerCase.h"
-#include "Platform/SmallFile.h"
 
 #include <algorithm>
 #include <array>
@@ -17,17 +16,7 @@ namespace Korvane {
 
 namespace {
 
-constexpr std::size_t largestEntry = 1 << 20;
-constexpr int deepestFolder = 8;
 constexpr std::size_t mostEntries = 20'000;
-
-/// The entry's id: its path below "applications" with dashes for slashes, without ".desktop".
-std::string idOf(const std::filesystem::path& folder, const std::filesystem::path& file)
-{
-    std::string id = file.lexically_relative(folder).replace_extension().native();
-    std::replace(id.begin(), id.end(), '/', '-');
-    return id;
-}
 
 bool isScript(const std::filesystem::path& program)
 {
@@ -51,16 +40,6 @@ std::filesystem::path scriptAmong(const std::vector<std::string>& arguments)
     return found == arguments.end() ? std::filesystem::path() : std::filesystem::path(*found);
 }
 
-/// "env NAME=value program" starts the program.
-void dropEnvironment(std::vector<std::string>& arguments)
-{
-    if (arguments.empty() || std::filesystem::path(arguments.front()).filename() != "env")
-        return;
-    const auto program = std::find_if(arguments.begin() + 1, arguments.end(),
-        [](const auto& argument) { return !argument.starts_with('-') && argument.find('=') == std::string::npos; });
-    arguments.erase(arguments.begin(), program);
-}
-
 } // namespace
 
 InstalledApplications::InstalledApplications(
@@ -73,38 +52,28 @@ InstalledApplications::InstalledApplications(
 
 void InstalledApplications::readFolder(const std::filesystem::path& folder)
 {
-    using std::filesystem::directory_options;
-    std::error_code error;
-    auto entry
-        = std::filesystem::recursive_directory_iterator(folder, directory_options::skip_permission_denied, error);
-    for (; !error && entry != std::filesystem::recursive_directory_iterator(); entry.increment(error)) {
-        if (entry.depth() >= deepestFolder)
-            entry.disable_recursion_pending();
-        if (entry->path().extension() != ".desktop" || m_seenIds.size() >= mostEntries)
-            continue;
-        const auto id = idOf(folder, entry->path());
-        if (!m_seenIds.insert(id).second)
-            continue;
-        const auto text = contentsOfSmallFile(entry->path(), largestEntry);
-        if (auto desktopEntry = text ? parseDesktopEntry(*text) : std::nullopt; desktopEntry && !desktopEntry->isHidden)
-            add(id, std::move(*desktopEntry));
-    }
+    visitDesktopEntries(folder, [this](const std::string& id, const std::filesystem::path& file) {
+        if (m_seenIds.size() >= mostEntries || !m_seenIds.insert(id).second)
+            return;
+        if (const auto entry = readDesktopEntry(file); entry && !entry->isHidden)
+            add(id, *entry);
+    });
 }
 
-void InstalledApplications::add(const std::string& id, DesktopEntry entry)
+void InstalledApplications::add(const std::string& id, const DesktopEntry& entry)
 {
-    dropEnvironment(entry.arguments);
-    if (entry.arguments.empty())
+    const auto command = entry.command();
+    if (command.empty())
         return;
-    const auto executable = resolved(entry.arguments.front());
+    const auto executable = resolved(command.front());
     if (executable.empty())
         return;
-    const auto programName = std::filesystem::path(entry.arguments.front()).filename().native();
+    const auto programName = std::filesystem::path(command.front()).filename().native();
     const auto index = m_applications.size();
     m_applications.push_back({ id, entry.startupWmClass, programName });
     if (isInterpreter(programName) || isInterpreter(executable.filename().native())) {
         std::error_code error;
-        const auto script = std::filesystem::canonical(scriptAmong(entry.arguments), error);
+        const auto script = std::filesystem::canonical(scriptAmong(command), error);
         if (!error)
             m_byScript.emplace(script.native(), index);
     } else if (isScript(executable)) {

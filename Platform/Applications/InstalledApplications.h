@@ -43,7 +43,7 @@ private:
     using Index = std::unordered_multimap<std::string, std::size_t>;
 
     void readFolder(const std::filesystem::path& folder);
-    void add(const std::string& id, DesktopEntry entry);
+    void add(const std::string& id, const DesktopEntry& entry);
     std::filesystem::path resolved(const std::string& program) const;
     void addScript(const std::filesystem::path& script, std::size_t application);
     void insert(const Index& index, const std::string& key, std::unordered_set<std::string>& identifiers) const;

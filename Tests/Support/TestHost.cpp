@@ -11,7 +11,8 @@ TestHost makeTestHost(const TemporaryFolder& folder)
 {
     const auto environment = Environment::inFolder(folder.path());
     auto workspace = std::make_shared<TestWorkspace>();
-    Host host{ environment, makeTestFileManager(environment), workspace, makeUserDefaults(environment) };
+    Host host{ environment, makeTestFileManager(environment), workspace, makeUserDefaults(environment),
+        makeApplicationCatalog(environment, { folder / "bin" }) };
     return { std::move(host), std::move(workspace) };
 }
 

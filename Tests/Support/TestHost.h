@@ -17,7 +17,8 @@ struct TestHost {
     std::shared_ptr<TestWorkspace> workspace; ///< The same as in `host`.
 };
 
-/// A host whose home is "home" and whose temporary directory is "tmp" in the folder.
+/// A host whose home is "home" and whose temporary directory is "tmp" in the folder. The programs that its catalog of
+/// applications runs are those that the test puts into "bin" there.
 TestHost makeTestHost(const TemporaryFolder& folder);
 
 } // namespace Korvane

@@ -1,0 +1,137 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Platform/Applications/Flatpaks.h"
+
+#include "Platform/ChildProcess.h"
+#include "Platform/FileError.h"
+
+#include <algorithm>
+#include <map>
+#include <sstream>
+#include <string>
+#include <system_error>
+#include <unistd.h>
+
+namespace Korvane {
+namespace {
+
+bool isProgram(const std::filesystem::path& file)
+{
+    std::error_code error;
+    return std::filesystem::is_regular_file(file, error) && ::access(file.c_str(), X_OK) == 0;
+}
+
+bool isElementCharacter(char character)
+{
+    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z')
+        || (character >= '0' && character <= '9') || character == '_' || character == '-';
+}
+
+/// Without blanks at both ends; what a tool says ends with a line end.
+std::string trimmed(const std::string& text)
+{
+    constexpr const char* blanks = " \t\r\n";
+    const auto first = text.find_first_not_of(blanks);
+    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+/// What a tool that failed has to say for itself; empty when nothing.
+std::string complaint(const ChildResult& result)
+{
+    const auto text = trimmed(result.errorOutput.text);
+    return text.empty() ? trimmed(result.output.text) : text;
+}
+
+} // namespace
+
+bool isFlatpakIdentifier(std::string_view text)
+{
+    constexpr std::size_t longest = 255;
+    bool isElementBegun = false;
+    bool hasDot = false;
+    for (const char character : text) {
+        if (character == '.' ? !isElementBegun : !isElementCharacter(character))
+            return false;
+        hasDot = hasDot || character == '.';
+        isElementBegun = character != '.';
+    }
+    return hasDot && isElementBegun && !text.starts_with('-') && text.size() <= longest;
+}
+
+Flatpaks::Flatpaks(const Environment& environment, const std::vector<std::filesystem::path>& programFolders)
+    : m_installation(environment.dataHome() / "flatpak")
+    , m_variables({ { "HOME", environment.home.native() }, { "XDG_DATA_HOME", environment.dataHome().native() },
+          { "FLATPAK_USER_DIR", m_installation.native() } })
+{
+    for (const auto& folder : programFolders)
+        if (m_tool.empty() && isProgram(folder / "flatpak"))
+            m_tool = folder / "flatpak";
+}
+
+std::filesystem::path Flatpaks::folderOf(std::string_view identifier) const
+{
+    return m_installation / "app" / identifier;
+}
+
+std::vector<HostApplication> Flatpaks::installed(const Cancellation& cancellation) const
+{
+    // The tool would make an installation where there is none.
+    std::error_code error;
+    if (m_tool.empty() || !std::filesystem::is_directory(m_installation / "app", error))
+        return {};
+    ChildProcess tool;
+    tool.program = m_tool;
+    tool.arguments = { "list", "--user", "--app", "--columns=application,name" };
+    tool.variables = m_variables;
+    try {
+        const auto result = tool.run(cancellation);
+        return result.hasSucceeded() ? listed(result.output.text) : std::vector<HostApplication>();
+    } catch (const FileError&) {
+        return {};
+    }
+}
+
+std::vector<HostApplication> Flatpaks::listed(const std::string& output) const
+{
+    std::map<std::string, HostApplication> applications;
+    std::istringstream lines(output);
+    for (std::string line; std::getline(lines, line);) {
+        const auto tab = line.find('\t');
+        const auto identifier = trimmed(line.substr(0, tab));
+        auto name = tab == std::string::npos ? "" : trimmed(line.substr(tab + 1));
+        const auto folder = folderOf(identifier);
+        std::error_code error;
+        // The identifier comes first: only a checked one makes a path that stays in the installation.
+        if (isFlatpakIdentifier(identifier) && std::filesystem::is_directory(symlink_status(folder, error)))
+            applications.try_emplace(identifier,
+                HostApplication{ HostApplication::Kind::Flatpak, identifier,
+                    name.empty() ? identifier : std::move(name), folder, {}, {} });
+    }
+    std::vector<HostApplication> sorted;
+    for (auto& [identifier, application] : applications)
+        sorted.push_back(std::move(application));
+    return sorted;
+}
+
+void Flatpaks::uninstall(const HostApplication& application, const Cancellation& cancellation) const
+{
+    const auto& identifier = application.identifier;
+    if (application.kind != HostApplication::Kind::Flatpak || !isFlatpakIdentifier(identifier)
+        || application.path != folderOf(identifier))
+        throw FileError(application.path, std::make_error_code(std::errc::invalid_argument));
+    if (m_tool.empty())
+        throw FileError(application.path, std::make_error_code(std::errc::no_such_file_or_directory));
+    ChildProcess tool;
+    tool.program = m_tool;
+    tool.arguments = { "uninstall", "--user", "--noninteractive", "-y", identifier };
+    tool.variables = m_variables;
+    const auto result = tool.run(cancellation);
+    if (result.hasSucceeded())
+        return;
+    const auto failure = std::make_error_code(std::errc::io_error);
+    const auto text = complaint(result);
+    throw text.empty() ? FileError(application.path, failure) : FileError(application.path, failure, text);
+}
+
+} // namespace Korvane
