@@ -66,6 +66,14 @@ std::size_t endOfTag(std::string_view text, std::size_t start)
     return std::string_view::npos;
 }
 
+/// Whether the reference that begins with this text is one that XML defines by itself. Readers pass over others without
+/// a word where the document type names a file that might define them.
+bool isKnownReference(std::string_view text)
+{
+    static constexpr std::array known{ "&#"sv, "&lt;"sv, "&gt;"sv, "&amp;"sv, "&quot;"sv, "&apos;"sv };
+    return std::any_of(known.begin(), known.end(), [&](auto reference) { return text.starts_with(reference); });
+}
+
 /// The position after the markup or the reference that begins at `start`; none when it is not plain.
 std::size_t endOfMarkup(std::string_view text, std::size_t start)
 {
@@ -85,6 +93,8 @@ std::size_t endOfMarkup(std::string_view text, std::size_t start)
             continue;
         // Cut off first: a search to the end of the file for each of many references would be quadratic.
         const auto markup = text.substr(start, form.longest);
+        if (form.opening == "&" && !isKnownReference(markup))
+            return std::string_view::npos;
         const auto close = markup.find(form.closing, form.opening.size());
         return close == std::string_view::npos ? close : start + close + form.closing.size();
     }

@@ -14,7 +14,7 @@ namespace Korvane {
 std::optional<std::string> xmlText(std::string_view bytes);
 
 /// Whether nothing in the document could cost a reader of XML more than its length: no definitions in the document type
-/// (and so no entities but XML's own), tags and references to entities of ordinary length.
+/// (and so no entities but XML's own), and tags of ordinary length.
 ///
 /// What is no markup at all passes: the reader will refuse it.
 bool isPlainXml(std::string_view text);
