@@ -13,6 +13,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <fstream>
 #include <sstream>
@@ -27,12 +28,7 @@ namespace Korvane {
 namespace {
 
 namespace fs = std::filesystem;
-using std::chrono::milliseconds;
-using Clock = std::chrono::steady_clock;
 using testing::ElementsAre;
-
-/// A cancel is answered within a tenth of a second; the rest is for a machine that is busy with other tests.
-constexpr milliseconds longestAnswer{ 600 };
 
 class WalkLimitsTest : public testing::Test {
 protected:
@@ -158,45 +154,42 @@ TEST_F(WalkLimitsTest, SaysWhenDescriptorsHaveRunOut)
     EXPECT_EQ(code, std::errc::too_many_files_open);
 }
 
-TEST_F(WalkLimitsTest, AnswersACancelAtOnce)
+TEST_F(WalkLimitsTest, DeliversNothingAfterACancel)
 {
-    makeManyFiles(m_folder / "many", 60'000);
+    makeManyFiles(m_folder / "many", 1'000);
     const Cancellation cancellation;
-    std::atomic<Clock::rep> cancelled{ 0 };
-    std::thread canceller([&] {
-        std::this_thread::sleep_for(milliseconds(50));
-        cancelled = Clock::now().time_since_epoch().count();
-        cancellation.cancel();
-    });
-    const auto walkForEver = [&] {
-        while (true) {
-            DirectoryEnumerator walk(m_folder.path(), {}, cancellation);
-            while (walk.next()) { }
-        }
-    };
-    EXPECT_THROW(walkForEver(), CancellationError);
-    EXPECT_LT(Clock::now().time_since_epoch() - Clock::duration(cancelled), longestAnswer);
-    canceller.join();
+    DirectoryEnumerator walk(m_folder.path(), {}, cancellation);
+    for (int index = 0; index < 500; ++index)
+        ASSERT_NE(walk.next(), nullptr);
+    std::thread([&] { cancellation.cancel(); }).join();
+    EXPECT_THROW(walk.next(), CancellationError);
+    EXPECT_THROW(walk.next(), CancellationError);
     EXPECT_THROW(DirectoryEnumerator(m_folder.path(), {}, cancellation).next(), CancellationError);
 }
 
 TEST_F(WalkLimitsTest, StopsMeasuringWhenCancelled)
 {
     makeManyFiles(m_folder / "many", 60'000);
-    const Cancellation cancellation;
-    std::atomic<Clock::rep> cancelled{ 0 };
-    std::thread canceller([&] {
-        std::this_thread::sleep_for(milliseconds(50));
-        cancelled = Clock::now().time_since_epoch().count();
-        cancellation.cancel();
-    });
-    const auto measureForEver = [&] {
-        while (true)
+    const auto isStopped = [&] {
+        const Cancellation cancellation;
+        std::thread canceller([&] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+            cancellation.cancel();
+        });
+        bool stopped = false;
+        try {
             totalAllocatedSize(m_folder.path(), cancellation);
+        } catch (const CancellationError&) {
+            stopped = true;
+        }
+        canceller.join();
+        return stopped;
     };
-    EXPECT_THROW(measureForEver(), CancellationError);
-    EXPECT_LT(Clock::now().time_since_epoch() - Clock::duration(cancelled), longestAnswer);
-    canceller.join();
+    // On a machine that is busy with other tests a cancel may come when all is measured.
+    bool stopped = false;
+    for (int attempt = 0; attempt < 50 && !stopped; ++attempt)
+        stopped = isStopped();
+    EXPECT_TRUE(stopped);
 }
 
 TEST_F(WalkLimitsTest, PassesOverFoldersThatCannotBeReadAndReportsThemInOrder)
@@ -270,17 +263,29 @@ TEST_F(WalkLimitsTest, EndsWhenTheErrorHandlerSaysSo)
     EXPECT_EQ(answer, "2 1");
 }
 
-TEST_F(WalkLimitsTest, OutlivesFilesAndFoldersThatVanishUnderIt)
+TEST_F(WalkLimitsTest, FindsWhatKeepsStillWhileFilesAndFoldersVanishUnderIt)
 {
     for (std::uint32_t round = 0; round < 8; ++round) {
-        fs::create_directory(m_folder / std::to_string(round));
-        const RandomTree tree(m_folder / std::to_string(round), round, 1500);
-        std::thread remover([&] { removeTree(m_folder / std::to_string(round)); });
-        DirectoryEnumerator walk(m_folder.path(), {});
-        while (const auto* entry = walk.next())
-            EXPECT_FALSE(entry->name().empty());
-        EXPECT_GE(totalAllocatedSize(m_folder.path()), 0);
+        const auto still = m_folder / "still", vanishing = m_folder / "vanishing";
+        fs::create_directory(still);
+        fs::create_directory(vanishing);
+        const RandomTree stillTree(still, round + 100, 300);
+        const RandomTree vanishingTree(vanishing, round, 1500);
+        const auto everything = allocatedPlainly(m_folder.path());
+        std::thread remover([&] { removeTree(vanishing); });
+        auto entries = walked(m_folder.path());
+        const auto total = totalAllocatedSize(m_folder.path());
         remover.join();
+        const auto left = walkedPlainly(m_folder.path());
+        const auto vanishes = [&](const auto& entry) { return entry.rfind(still.native() + '/', 0) != 0; };
+        entries.erase(std::remove_if(entries.begin(), entries.end(), vanishes), entries.end());
+        EXPECT_GT(entries.size(), 200U);
+        EXPECT_TRUE(std::equal(entries.begin(), entries.end(), left.begin() + 1, left.end()));
+        EXPECT_GE(total, allocatedPlainly(still));
+        EXPECT_LE(total, everything);
+        EXPECT_EQ(walked(m_folder.path()), left);
+        EXPECT_EQ(totalAllocatedSize(m_folder.path()), allocatedPlainly(m_folder.path()));
+        removeTree(still);
     }
 }
 
