@@ -3,6 +3,7 @@
 
 #include "Core/Scanning/LargeFilesScanner.h"
 
+#include "Core/Scanning/ScanExclusions.h"
 #include "Tests/Core/ForwardingFileManager.h"
 #include "Tests/Core/ScanFixture.h"
 #include "Tests/Core/WalkOrder.h"

@@ -26,35 +26,15 @@ bool isHidden(const fs::path& path) { return path.filename().native().front() ==
 
 std::string shown(const fs::path& path) { return displayText(path.filename()); }
 
-/// The regular files that a scan of a home looks at.
-std::vector<fs::path> filesBelow(const fs::path& folder, const fs::path& library)
+/// The regular files that a scan looks at, in the order of the walk.
+std::vector<fs::path> filesBelow(const fs::path& root, const fs::path& library)
 {
-    static const std::set<std::string> neverEntered{ "node_modules", "Pods", "Carthage", "vendor", "venv", ".venv",
-        ".git", ".build", "DerivedData", "target", ".gradle", "bower_components", "__pycache__", ".terraform", ".m2" };
-    static const std::set<std::string> packages{ ".app", ".APP", ".photoslibrary", ".bundle" };
     std::vector<fs::path> files;
-    for (const auto& entry : fs::directory_iterator(folder)) {
-        const auto name = entry.path().filename().native();
-        if (isHidden(entry.path()) || entry.path() == library)
-            continue;
-        if (isFile(entry.path()))
-            files.push_back(entry.path());
-        if (!isFolder(entry.path()) || neverEntered.count(name) != 0
-            || packages.count(entry.path().extension().native()) != 0)
-            continue;
-        const auto inner = filesBelow(entry.path(), library);
-        files.insert(files.end(), inner.begin(), inner.end());
+    for (const auto& entry : walkOrder(root, library)) {
+        if (isFile(entry.path))
+            files.push_back(entry.path);
     }
     return files;
-}
-
-/// Where each path comes in the walk.
-std::map<fs::path, std::size_t> positions(const fs::path& root, const fs::path& library)
-{
-    std::map<fs::path, std::size_t> found;
-    for (const auto& entry : walkOrder(root, library))
-        found.emplace(entry.path, found.size());
-    return found;
 }
 
 void addJunk(
@@ -87,42 +67,42 @@ ReferenceRules::ReferenceRules(fs::path home)
 
 std::vector<ReferenceRow> ReferenceRules::largeFiles(std::int64_t threshold, std::int64_t maxResults) const
 {
-    const auto position = positions(m_home, m_home / "Library");
-    std::vector<std::tuple<std::int64_t, std::size_t, fs::path>> found;
+    std::vector<std::pair<std::int64_t, fs::path>> found;
     for (const auto& path : filesBelow(m_home, m_home / "Library")) {
         if (allocatedBytes(path) >= threshold)
-            found.emplace_back(-allocatedBytes(path), position.at(path), path);
+            found.emplace_back(allocatedBytes(path), path);
     }
-    std::sort(found.begin(), found.end());
+    std::stable_sort(
+        found.begin(), found.end(), [](const auto& left, const auto& right) { return left.first > right.first; });
     found.resize(std::min(found.size(), static_cast<std::size_t>(maxResults)));
     std::vector<ReferenceRow> rows;
-    for (const auto& [size, place, path] : found)
-        rows.emplace_back(path, shown(path), "Large Files", -size, false);
+    for (const auto& [size, path] : found)
+        rows.emplace_back(path, shown(path), "Large Files", size, false);
     return rows;
 }
 
 std::set<std::vector<ReferenceRow>> ReferenceRules::duplicates(
     const fs::path& root, std::int64_t minimum, std::int64_t prefix) const
 {
-    using Member = std::tuple<fs::file_time_type, std::size_t, fs::path>;
-    const auto position = positions(root, m_home / "Library");
+    using Member = std::pair<fs::file_time_type, fs::path>;
     std::map<std::pair<std::int64_t, std::string>, std::vector<Member>> sets;
     for (const auto& path : filesBelow(root, m_home / "Library")) {
         const auto size = static_cast<std::int64_t>(fs::file_size(path));
         if (size >= minimum)
             sets[{ size, readFile(path).substr(0, static_cast<std::size_t>(prefix)) }].emplace_back(
-                fs::last_write_time(path), position.at(path), path);
+                fs::last_write_time(path), path);
     }
     std::set<std::vector<ReferenceRow>> found;
     for (auto& [key, members] : sets) {
         if (members.size() < 2)
             continue;
-        std::sort(members.begin(), members.end());
-        const auto kept = shown(std::get<fs::path>(members.front()));
+        std::stable_sort(members.begin(), members.end(),
+            [](const Member& left, const Member& right) { return left.first < right.first; });
+        const auto kept = shown(members.front().second);
         const auto label = kept + " \xE2\x80\x94 " + std::to_string(members.size()) + " copies, "
             + formattedBytes(key.first) + " each";
         std::vector<ReferenceRow> set;
-        for (const auto& [modified, place, path] : members)
+        for (const auto& [modified, path] : members)
             set.emplace_back(path, shown(path) + (set.empty() ? " (original)" : ""), label, key.first, !set.empty());
         found.insert(set);
     }

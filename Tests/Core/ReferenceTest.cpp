@@ -170,6 +170,7 @@ TEST_P(ReferenceTest, WhatKeepsStillAgreesWhileTheRestChanges)
         const ReferenceRules rules(home.home());
         const auto stillLarge = rules.largeFiles(4096, 100'000);
         const auto stillSets = rules.duplicates(home.home(), 100, 1000);
+        const auto stillSize = ReferenceRules::totalSize(home.home());
         const RestlessFolder restless(home.home() / "restless");
         const auto isStill = [&](const ReferenceRow& row) { return !restless.mayHold(std::get<fs::path>(row)); };
         auto large = rowsOf(home.scan(LargeFilesScanner(4096, 100'000)));
@@ -183,6 +184,7 @@ TEST_P(ReferenceTest, WhatKeepsStillAgreesWhileTheRestChanges)
             set = still ? std::next(set) : sets.erase(set);
         }
         EXPECT_EQ(sets, stillSets);
+        EXPECT_GE(FileSizeCalculator::totalSize(home.home()), stillSize);
     }
 }
 

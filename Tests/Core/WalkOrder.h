@@ -3,38 +3,22 @@
 
 #pragma once
 
-#include "Core/Scanning/ScanExclusions.h"
-#include "Platform/DirectoryEnumerator.h"
-
 #include <filesystem>
 #include <vector>
 
 namespace Korvane {
 
-/// The entries of the walk over a home, or over another root less the library of the home, in the order in which
-/// scanners meet them, with the folder of each.
+/// An entry that scanners meet, and the folder that lists it.
 struct WalkedEntry {
     std::filesystem::path path;
     std::filesystem::path parent;
 };
 
-inline std::vector<WalkedEntry> walkOrder(const std::filesystem::path& root, const std::filesystem::path& library)
-{
-    EnumerationOptions options;
-    options.hiddenFiles = HiddenFiles::Skipped;
-    options.packageDescendants = PackageDescendants::Skipped;
-    options.namesNeverEntered = &ScanExclusions::dependencyDirNames();
-    options.pathsNeverEntered = { library };
-    DirectoryEnumerator enumerator(root, options);
-    std::vector<WalkedEntry> entries;
-    while (const auto* entry = enumerator.next())
-        entries.push_back({ entry->path(), entry->parentPath() });
-    return entries;
-}
+/// What scanners meet below a root, less the library of the home, in their order: each folder as the system lists it,
+/// what it holds right after it. By a plain recursion of its own.
+std::vector<WalkedEntry> walkOrder(const std::filesystem::path& root, const std::filesystem::path& library);
 
-inline std::vector<WalkedEntry> walkOrder(const std::filesystem::path& home)
-{
-    return walkOrder(home, home / "Library");
-}
+/// The same below a home.
+std::vector<WalkedEntry> walkOrder(const std::filesystem::path& home);
 
 } // namespace Korvane
