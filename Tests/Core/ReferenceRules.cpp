@@ -31,7 +31,7 @@ std::vector<fs::path> filesBelow(const fs::path& root, const fs::path& library)
 {
     std::vector<fs::path> files;
     for (const auto& entry : walkOrder(root, library)) {
-        if (isFile(entry.path))
+        if (isFile(entry.path) && entry.path != library)
             files.push_back(entry.path);
     }
     return files;
