@@ -21,7 +21,7 @@ struct HostApplication {
     std::string name; ///< The name to be shown, UTF-8 unless the entry's is not.
     std::filesystem::path path; ///< AppImage: the file. Flatpak: "app/ID" in the user's installation.
     std::vector<std::filesystem::path> desktopEntries; ///< AppImage: the user's entries that start it, sorted.
-    std::vector<std::filesystem::path> icons; ///< AppImage: its icons, sorted; each is an image that is shown as well.
+    std::vector<std::filesystem::path> icons; ///< AppImage: its icons (PNG, SVG, XPM), sorted.
 };
 
 } // namespace Korvane

@@ -19,7 +19,7 @@ bool isIconFile(const std::filesystem::path& file)
 
 } // namespace
 
-AppImageIcons::AppImageIcons(std::filesystem::path iconsFolder, const HomeFolder& home)
+AppImageIcons::AppImageIcons(std::filesystem::path iconsFolder, const InsideFolder& home)
     : m_iconsFolder(std::move(iconsFolder))
     , m_home(home)
 {

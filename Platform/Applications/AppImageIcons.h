@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "Platform/Applications/HomeFolder.h"
+#include "Platform/Applications/InsideFolder.h"
 #include "Platform/Cancellation.h"
 
 #include <filesystem>
@@ -18,7 +18,7 @@ namespace Korvane {
 class AppImageIcons {
 public:
     /// Icons are named within `iconsFolder`, the user's own.
-    AppImageIcons(std::filesystem::path iconsFolder, const HomeFolder& home);
+    AppImageIcons(std::filesystem::path iconsFolder, const InsideFolder& home);
 
     /// Takes note that an entry names an icon, for an image or, when that is empty, for something else.
     void addEntry(const std::string& icon, const std::filesystem::path& image);
@@ -36,7 +36,7 @@ private:
     void findIn(const std::filesystem::path& folder, int depth, const Cancellation& cancellation);
 
     std::filesystem::path m_iconsFolder;
-    HomeFolder m_home;
+    InsideFolder m_home;
     std::map<std::string, std::set<std::filesystem::path>> m_images; ///< By icon, those that it was named for.
     std::map<std::filesystem::path, std::set<std::filesystem::path>> m_found; ///< By image.
 };

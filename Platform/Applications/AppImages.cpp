@@ -5,7 +5,7 @@
 
 #include "Platform/Applications/AppImageIcons.h"
 #include "Platform/Applications/DesktopEntry.h"
-#include "Platform/Applications/HomeFolder.h"
+#include "Platform/Applications/InsideFolder.h"
 #include "Platform/FileDescriptor.h"
 
 #include <algorithm>
@@ -27,7 +27,7 @@ struct EntryFile {
 };
 
 /// The image in the home folder that an entry starts; empty when it starts something else.
-std::filesystem::path imageOf(const DesktopEntry& entry, const HomeFolder& home)
+std::filesystem::path imageOf(const DesktopEntry& entry, const InsideFolder& home)
 {
     const auto command = entry.command();
     if (command.empty() || !command.front().starts_with('/'))
@@ -38,7 +38,7 @@ std::filesystem::path imageOf(const DesktopEntry& entry, const HomeFolder& home)
 
 /// The user's entries, sorted by id.
 std::vector<EntryFile> entriesIn(
-    const std::filesystem::path& folder, const HomeFolder& home, const Cancellation& cancellation)
+    const std::filesystem::path& folder, const InsideFolder& home, const Cancellation& cancellation)
 {
     std::vector<EntryFile> files;
     constexpr std::size_t mostEntries = 20'000;
@@ -88,7 +88,7 @@ bool isAppImage(const std::filesystem::path& file)
 
 std::vector<HostApplication> installedAppImages(const Environment& environment, const Cancellation& cancellation)
 {
-    const HomeFolder home(environment.home);
+    const InsideFolder home(environment.home);
     const auto files = entriesIn(environment.dataHome() / "applications", home, cancellation);
     std::map<std::filesystem::path, HostApplication> applications;
     AppImageIcons icons(environment.dataHome() / "icons", home);
