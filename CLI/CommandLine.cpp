@@ -16,6 +16,7 @@ namespace {
 using Command = CommandLine::Command;
 using Selection = CommandLine::Selection;
 
+constexpr std::string_view commands = "one of: modules, scan, clean, apps, uninstall, --help, --version";
 constexpr std::string_view itemOption = "--item";
 constexpr std::string_view itemAssignment = "--item=";
 
@@ -35,7 +36,7 @@ public:
     CommandLine parse()
     {
         if (m_arguments.empty())
-            throw UsageError("a command is missing; one of: modules, scan, clean, --help, --version");
+            throw UsageError("a command is missing; " + std::string(commands));
         if (asksFor("--help") || asksFor("-h"))
             return m_result;
         if (m_arguments.front() == "--version") {
@@ -46,8 +47,7 @@ public:
         readCommand();
         while (m_next < m_arguments.size())
             readArgument(m_arguments[m_next++]);
-        if (!m_hasModule && m_result.command != Command::Modules)
-            throw UsageError("a module is missing; one of: " + scannableModules());
+        requireSubject();
         return m_result;
     }
 
@@ -62,6 +62,15 @@ private:
                 return true;
         }
         return false;
+    }
+
+    void requireSubject() const
+    {
+        if (m_result.command == Command::Uninstall && !m_hasSubject)
+            throw UsageError("the path or the identifier of an application is missing; 'korvane-cli apps' lists them");
+        const bool takesModule = m_result.command == Command::Scan || m_result.command == Command::Clean;
+        if (takesModule && !m_hasSubject)
+            throw UsageError("a module is missing; one of: " + scannableModules());
     }
 
     void requireNothingBehind(std::size_t position) const
@@ -79,19 +88,25 @@ private:
             m_result.command = Command::Scan;
         else if (command == "clean")
             m_result.command = Command::Clean;
+        else if (command == "apps")
+            m_result.command = Command::Apps;
+        else if (command == "uninstall")
+            m_result.command = Command::Uninstall;
         else
-            throw UsageError("unknown command '" + displayText(std::string_view(command))
-                + "'; one of: modules, scan, clean, --help, --version");
+            throw UsageError(
+                "unknown command '" + displayText(std::string_view(command)) + "'; " + std::string(commands));
     }
 
     void readArgument(const std::string& argument)
     {
         if (argument == "--json")
             m_result.format = CommandLine::Format::Json;
+        else if (argument == "--yes" && m_result.command == Command::Uninstall)
+            m_result.confirmation = CommandLine::Confirmation::Given;
         else if (startsWith(argument, "-"))
             readCleanOption(argument);
         else
-            readModule(argument);
+            readSubject(argument);
     }
 
     void readCleanOption(const std::string& option)
@@ -101,7 +116,8 @@ private:
             throw UsageError(
                 "unknown option '" + displayText(std::string_view(option)) + "'; --help lists the options there are");
         if (m_result.command != Command::Clean)
-            throw UsageError("option '" + option.substr(0, option.find('=')) + "' belongs to the command 'clean' only");
+            throw UsageError("option '" + option.substr(0, option.find('=')) + "' belongs to "
+                + (option == "--yes" ? "the commands 'clean' and 'uninstall' only" : "the command 'clean' only"));
         if (option == "--delete")
             m_result.removal = CommandLine::Removal::Delete;
         else if (option == "--yes")
@@ -131,10 +147,20 @@ private:
         m_result.selection = selection;
     }
 
+    void readSubject(const std::string& argument)
+    {
+        const bool takesNone = m_result.command == Command::Modules || m_result.command == Command::Apps;
+        if (m_hasSubject || takesNone)
+            requireNothingBehind(m_next - 1);
+        if (m_result.command == Command::Uninstall)
+            m_result.application = argument;
+        else
+            readModule(argument);
+        m_hasSubject = true;
+    }
+
     void readModule(const std::string& name)
     {
-        if (m_hasModule || m_result.command == Command::Modules)
-            requireNothingBehind(m_next - 1);
         const auto module = cleanerModule(name);
         if (!module)
             throw UsageError(
@@ -142,12 +168,11 @@ private:
         if (!isScannable(*module))
             throw UsageError("module '" + name + "' has no scan; one of: " + scannableModules());
         m_result.module = *module;
-        m_hasModule = true;
     }
 
     const std::vector<std::string>& m_arguments;
     std::size_t m_next = 0;
-    bool m_hasModule = false;
+    bool m_hasSubject = false;
     CommandLine m_result;
 };
 
@@ -161,6 +186,8 @@ std::string_view usageText()
            "  korvane-cli modules [--json]\n"
            "  korvane-cli scan MODULE [--json]\n"
            "  korvane-cli clean MODULE [--all | --item PATH ...] [--delete] [--yes] [--json]\n"
+           "  korvane-cli apps [--json]\n"
+           "  korvane-cli uninstall PATH-OR-ID [--yes] [--json]\n"
            "  korvane-cli --help | --version\n"
            "\n"
            "MODULE is systemJunk, largeFiles or duplicates.\n"
@@ -168,11 +195,15 @@ std::string_view usageText()
            "scan shows what could be cleaned, and changes nothing. clean scans, then takes the\n"
            "pre-selected findings, and without --yes only says what it would do.\n"
            "\n"
+           "apps lists the installed applications with what each has left behind. uninstall moves\n"
+           "one of them, named by its path or its identifier, with all of that to the Trash; it\n"
+           "refuses an application that is running, and without --yes only says what it would do.\n"
+           "\n"
            "  --all        take all findings, also those that may be in use or needed\n"
            "  --item PATH  take this finding; may be given more than once\n"
            "  --delete     delete for good instead of moving to the Trash\n"
            "  --yes        do it\n"
-           "  --json       print one JSON object\n"
+           "  --json       print one line of JSON\n"
            "\n"
            "Exit status: 0 done, 1 some items failed, 2 wrong use, 130 cancelled by Ctrl-C.\n";
 }

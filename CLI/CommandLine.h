@@ -14,12 +14,12 @@ namespace Korvane {
 
 /// What one start of korvane-cli is asked to do.
 struct CommandLine {
-    enum class Command { Help, Version, Modules, Scan, Clean };
+    enum class Command { Help, Version, Modules, Scan, Clean, Apps, Uninstall };
     enum class Format { Text, Json };
     /// Which findings are cleaned: those that a scan ticks by itself, all, or those named.
     enum class Selection { Preselected, All, Named };
     enum class Removal { MoveToTrash, Delete };
-    /// Whether cleaning happens, or is only described.
+    /// Whether cleaning or uninstalling happens, or is only described.
     enum class Confirmation { Missing, Given };
 
     Command command = Command::Help;
@@ -29,6 +29,7 @@ struct CommandLine {
     std::vector<std::filesystem::path> namedItems; ///< Any bytes, as given.
     Removal removal = Removal::MoveToTrash;
     Confirmation confirmation = Confirmation::Missing;
+    std::string application; ///< Of Uninstall: a path or an identifier, any bytes, as given.
 
     /// Reads the arguments behind the program's name. Throws UsageError.
     static CommandLine parse(const std::vector<std::string>& arguments);

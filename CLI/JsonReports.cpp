@@ -1,56 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "CLI/Base64.h"
 #include "CLI/CommandLine.h"
+#include "CLI/JsonItems.h"
 #include "CLI/JsonWriter.h"
 #include "CLI/Reports.h"
 
 #include "Platform/Checked.h"
-#include "Platform/DisplayText.h"
 
 namespace Korvane {
 
 namespace {
-
-void writePath(JsonWriter& json, const std::filesystem::path& path)
-{
-    const std::string_view bytes = path.native();
-    const bool isText = isValidUtf8(bytes);
-    json.key("path");
-    json.string(isText ? std::string(bytes) : displayText(bytes));
-    if (isText)
-        return;
-    json.key("pathBase64");
-    json.string(base64(bytes));
-}
-
-/// The members of an item, without the braces around them.
-void writeMembers(JsonWriter& json, const ScanItem& item)
-{
-    writePath(json, item.url);
-    json.key("displayName");
-    json.string(item.displayName);
-    json.key("category");
-    json.string(item.category);
-    json.key("sizeInBytes");
-    json.number(item.sizeInBytes);
-    json.key("selectableByDefault");
-    json.boolean(item.selectableByDefault);
-}
-
-std::string_view nameOf(Cleaner::Action action)
-{
-    switch (action) {
-    case Cleaner::Action::MoveToTrash:
-        return "moveToTrash";
-    case Cleaner::Action::Delete:
-        return "delete";
-    case Cleaner::Action::EmptyTrash:
-        return "emptyTrash";
-    }
-    return {};
-}
 
 void writeModule(JsonWriter& json, CleanerModule module)
 {
@@ -124,7 +84,7 @@ std::string resultAsJson(const Cleaner::Result& result)
         json.beginObject();
         writePath(json, failure.url);
         json.key("message");
-        json.string(isValidUtf8(failure.message) ? failure.message : displayText(std::string_view(failure.message)));
+        writeText(json, failure.message);
         json.endObject();
     }
     json.endArray();

@@ -38,6 +38,12 @@ void JsonWriter::boolean(bool value)
     m_text += value ? "true" : "false";
 }
 
+void JsonWriter::null()
+{
+    separate();
+    m_text += "null";
+}
+
 std::string JsonWriter::take()
 {
     m_text += '\n';

@@ -24,6 +24,7 @@ public:
     void string(std::string_view text);
     void number(std::int64_t value);
     void boolean(bool value);
+    void null();
 
     /// The text, ended by a line feed; the writer is empty afterwards.
     std::string take();

@@ -92,6 +92,10 @@ ExitStatus Program::runCommand(const CommandLine& line)
     }
     case Command::Clean:
         return clean(line);
+    case Command::Apps:
+        return listApps(line);
+    case Command::Uninstall:
+        return uninstall(line);
     }
     return ExitStatus::WrongUse;
 }

@@ -7,6 +7,7 @@
 #include "CLI/ExitStatus.h"
 #include "Core/Cleaning/Cleaner.h"
 #include "Core/Scanning/ScanItem.h"
+#include "Core/Uninstalling/InstalledApp.h"
 #include "Platform/Cancellation.h"
 #include "Platform/Host.h"
 
@@ -26,9 +27,12 @@ public:
 private:
     ExitStatus runCommand(const CommandLine& line);
     ExitStatus clean(const CommandLine& line);
+    ExitStatus listApps(const CommandLine& line) const;
+    ExitStatus uninstall(const CommandLine& line) const;
 
     std::vector<ScanItem> scan(CleanerModule module) const;
     SharedStorageOfItems sharedStorage(CleanerModule module, const std::vector<ScanItem>& items) const;
+    std::vector<InstalledApp> scanApps() const;
     std::vector<ScanItem> chosen(const CommandLine& line, std::vector<ScanItem> items) const;
     Cleaner::Result cleanEach(const std::vector<ScanItem>& items, CommandLine::Removal removal);
 

@@ -19,7 +19,8 @@ Korvane::Host hostOfThisMachine()
 {
     const auto environment = Korvane::Environment::current();
     // No preferences: nothing that the command line does depends on one.
-    return { environment, Korvane::makeFileManager(environment), Korvane::makeWorkspace(environment), nullptr };
+    return { environment, Korvane::makeFileManager(environment), Korvane::makeWorkspace(environment), nullptr,
+        Korvane::makeApplicationCatalog(environment) };
 }
 
 } // namespace

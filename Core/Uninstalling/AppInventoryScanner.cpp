@@ -6,12 +6,16 @@
 #include "Core/Scanning/FileSizeCalculator.h"
 #include "Core/Scanning/LastPathComponent.h"
 #include "Core/Scanning/ProgressThrottle.h"
+#include "Core/Uninstalling/LeftoverPlaces.h"
+#include "Platform/Bundle.h"
 #include "Platform/Checked.h"
 #include "Platform/DisplayText.h"
 #include "Platform/FileError.h"
 
 #include <algorithm>
+#include <optional>
 #include <string_view>
+#include <system_error>
 #include <utility>
 
 namespace Korvane {
@@ -39,6 +43,31 @@ std::vector<std::filesystem::path> visibleChildren(const std::filesystem::path& 
     }
 }
 
+std::optional<std::string> bundleIdentifier(const std::filesystem::path& url)
+{
+    const auto bundle = Bundle::open(url);
+    return bundle ? bundle->bundleIdentifier() : std::nullopt;
+}
+
+/// The folder free of links, where it can be found out.
+std::filesystem::path resolved(const std::filesystem::path& folder)
+{
+    std::error_code error;
+    auto path = std::filesystem::canonical(folder, error);
+    return error ? folder : path;
+}
+
+InstalledApp::Kind kindOf(HostApplication::Kind kind)
+{
+    switch (kind) {
+    case HostApplication::Kind::AppImage:
+        return InstalledApp::Kind::AppImage;
+    case HostApplication::Kind::Flatpak:
+        return InstalledApp::Kind::Flatpak;
+    }
+    return InstalledApp::Kind::AppImage;
+}
+
 } // namespace
 
 /// One scan: what has been found so far, and how it is reported.
@@ -56,26 +85,74 @@ public:
         const auto home = m_host.files->homeDirectoryForCurrentUser();
         for (const auto& folder : { m_host.environment.applicationsDirectory, home / "Applications" }) {
             m_cancellation.throwIfCancelled();
-            for (const auto& child : visibleChildren(folder, *m_host.files)) {
-                m_cancellation.throwIfCancelled();
-                addBundle(child);
-            }
+            addBundles(folder);
         }
-        std::stable_sort(m_apps.begin(), m_apps.end(), [](const InstalledApp& left, const InstalledApp& right) {
-            return left.totalSize() > right.totalSize();
-        });
+        for (const auto& application : m_host.applications->additionalApplications(m_cancellation)) {
+            m_cancellation.throwIfCancelled();
+            addHostApplication(application);
+        }
+        std::stable_sort(m_apps.begin(), m_apps.end(),
+            [](const InstalledApp& left, const InstalledApp& right) { return left.totalSize() > right.totalSize(); });
         return std::move(m_apps);
     }
 
 private:
-    void addBundle(const std::filesystem::path& url)
+    void addBundles(const std::filesystem::path& folder)
     {
-        const auto stem = stemOfApplication(url);
-        if (!stem)
-            return;
+        const auto own = m_host.applications->mainBundle();
+        const auto resolvedFolder = resolved(folder);
+        for (const auto& child : visibleChildren(folder, *m_host.files)) {
+            m_cancellation.throwIfCancelled();
+            const auto stem = stemOfApplication(child);
+            if (stem && child != own && resolvedFolder / lastPathComponent(child) != own)
+                addBundle(child, *stem);
+        }
+    }
+
+    void addBundle(const std::filesystem::path& url, const std::string& stem)
+    {
         report(url);
         const auto size = FileSizeCalculator::totalSize(url, m_cancellation);
-        add(InstalledApp(url, displayText(*stem), std::nullopt, size, {}));
+        auto identifier = bundleIdentifier(url);
+        std::vector<ScanItem> leftovers;
+        if (identifier) {
+            for (const auto& candidate : leftoverCandidates(*identifier, *m_host.files))
+                addIfNotEmpty(leftovers, { candidate, leftoverCategory(candidate) });
+        }
+        add(InstalledApp(url, displayText(stem), std::move(identifier), size, std::move(leftovers)));
+    }
+
+    void addHostApplication(const HostApplication& application)
+    {
+        report(application.path);
+        const auto size = FileSizeCalculator::totalSize(application.path, m_cancellation);
+        std::vector<ScanItem> leftovers;
+        for (const auto& entry : application.desktopEntries)
+            addPart(leftovers, { entry, "Desktop Entry" });
+        for (const auto& icon : application.icons)
+            addPart(leftovers, { icon, "Icons" });
+        const auto home = m_host.files->homeDirectoryForCurrentUser();
+        if (application.kind == HostApplication::Kind::Flatpak && isFileName(application.identifier))
+            addIfNotEmpty(leftovers, { home / ".var/app" / application.identifier, "Containers" });
+        for (const auto& place : desktopLeftoverPlaces(application.identifier, m_host.environment, *m_host.files))
+            addIfNotEmpty(leftovers, place);
+        add(InstalledApp(application.path, displayText(application.name), application.identifier, size,
+            std::move(leftovers), kindOf(application.kind)));
+    }
+
+    void addIfNotEmpty(std::vector<ScanItem>& leftovers, const LeftoverPlace& place) const
+    {
+        m_cancellation.throwIfCancelled();
+        const auto size = FileSizeCalculator::totalSize(place.url, m_cancellation);
+        if (size > 0)
+            leftovers.emplace_back(place.url, std::nullopt, place.category, size, true);
+    }
+
+    /// What belongs to the application itself goes with it, even where the file system keeps it without a block.
+    void addPart(std::vector<ScanItem>& leftovers, const LeftoverPlace& place) const
+    {
+        const auto size = FileSizeCalculator::totalSize(place.url, m_cancellation);
+        leftovers.emplace_back(place.url, std::nullopt, place.category, size, true);
     }
 
     void add(InstalledApp app)
@@ -106,6 +183,36 @@ std::vector<InstalledApp> AppInventoryScanner::scanApps(
     const Host& host, const ProgressHandler& progress, const Cancellation& cancellation) const
 {
     return Scan(host, progress, cancellation).run();
+}
+
+std::vector<std::filesystem::path> AppInventoryScanner::leftoverCandidates(
+    const std::string& bundleID, const FileManager& files)
+{
+    if (!isFileName(bundleID))
+        return {};
+    const auto library = files.homeDirectoryForCurrentUser() / "Library";
+    std::vector<std::filesystem::path> candidates{
+        library / "Application Support" / bundleID,
+        library / "Caches" / bundleID,
+        library / "Preferences" / (bundleID + ".plist"),
+        library / "Saved Application State" / (bundleID + ".savedState"),
+        library / "HTTPStorages" / bundleID,
+        library / "WebKit" / bundleID,
+        library / "Containers" / bundleID,
+    };
+    const auto isMissing = [&](const std::filesystem::path& candidate) { return !files.fileExists(candidate); };
+    candidates.erase(std::remove_if(candidates.begin(), candidates.end(), isMissing), candidates.end());
+    return candidates;
+}
+
+std::string AppInventoryScanner::leftoverCategory(const std::filesystem::path& url)
+{
+    const auto contains = [&](std::string_view part) { return url.native().find(part) != std::string::npos; };
+    for (const char* category : { "Caches", "Preferences", "Application Support", "Containers" }) {
+        if (contains("/" + std::string(category) + "/"))
+            return category;
+    }
+    return "Other Leftovers";
 }
 
 } // namespace Korvane

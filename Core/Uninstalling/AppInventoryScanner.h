@@ -8,6 +8,8 @@
 #include "Platform/Cancellation.h"
 #include "Platform/Host.h"
 
+#include <filesystem>
+#include <string>
 #include <vector>
 
 namespace Korvane {
@@ -26,6 +28,13 @@ public:
 
 private:
     class Scan;
+
+    /// What is there of the seven places where an application keeps the user's data under its identifier, in their
+    /// order. Nothing for an identifier that is no file name and so would lead out of them.
+    static std::vector<std::filesystem::path> leftoverCandidates(const std::string& bundleID, const FileManager& files);
+
+    /// The heading for a leftover, by its whole path; the first that fits.
+    static std::string leftoverCategory(const std::filesystem::path& url);
 };
 
 } // namespace Korvane

@@ -80,9 +80,11 @@ TEST(CommandLineTest, ItemsAreTakenAsBytesAsTheyAreGiven)
 
 TEST(CommandLineTest, CommandHasToBeKnown)
 {
-    EXPECT_EQ(complaint({}), "a command is missing; one of: modules, scan, clean, --help, --version");
-    EXPECT_EQ(complaint({ "Scan" }), "unknown command 'Scan'; one of: modules, scan, clean, --help, --version");
-    EXPECT_EQ(complaint({ "--json" }), "unknown command '--json'; one of: modules, scan, clean, --help, --version");
+    EXPECT_EQ(complaint({}), "a command is missing; one of: modules, scan, clean, apps, uninstall, --help, --version");
+    EXPECT_EQ(complaint({ "Scan" }),
+        "unknown command 'Scan'; one of: modules, scan, clean, apps, uninstall, --help, --version");
+    EXPECT_EQ(complaint({ "--json" }),
+        "unknown command '--json'; one of: modules, scan, clean, apps, uninstall, --help, --version");
 }
 
 TEST(CommandLineTest, ModuleHasToBeGivenOnceAndKnown)
@@ -103,10 +105,40 @@ TEST(CommandLineTest, OptionsHaveToBeKnownAndInTheirPlace)
         complaint({ "scan", "systemJunk", "--force" }), "unknown option '--force'; --help lists the options there are");
     EXPECT_EQ(complaint({ "scan", "systemJunk", "--item=/a" }), "option '--item' belongs to the command 'clean' only");
     for (const char* option : { "--all", "--delete", "--yes", "--item" }) {
+        const std::string owner
+            = std::string(option) == "--yes" ? "the commands 'clean' and 'uninstall'" : "the command 'clean'";
         EXPECT_EQ(complaint({ "scan", "systemJunk", option }),
-            std::string("option '") + option + "' belongs to the command 'clean' only");
+            std::string("option '") + option + "' belongs to " + owner + " only");
     }
     EXPECT_EQ(complaint({ "clean", "systemJunk", "--item" }), "option '--item' needs the path of one of the findings");
+}
+
+TEST(CommandLineTest, AppsTakesNothingButItsFormat)
+{
+    EXPECT_EQ(parse({ "apps" }).command, Command::Apps);
+    EXPECT_EQ(parse({ "apps", "--json" }).format, Format::Json);
+    EXPECT_EQ(complaint({ "apps", "systemJunk" }), "unexpected argument 'systemJunk'");
+    EXPECT_EQ(complaint({ "apps", "--yes" }), "option '--yes' belongs to the commands 'clean' and 'uninstall' only");
+}
+
+TEST(CommandLineTest, UninstallTakesOneApplicationAndOnlySaysSoUnlessTold)
+{
+    const auto line = parse({ "uninstall", "/Applications/A\xff.app" });
+    EXPECT_EQ(line.command, Command::Uninstall);
+    EXPECT_EQ(line.application, "/Applications/A\xff.app");
+    EXPECT_EQ(line.confirmation, CommandLine::Confirmation::Missing);
+    const auto confirmed = parse({ "uninstall", "--json", "--yes", "com.example.App" });
+    EXPECT_EQ(confirmed.application, "com.example.App");
+    EXPECT_EQ(confirmed.confirmation, CommandLine::Confirmation::Given);
+    EXPECT_EQ(confirmed.format, Format::Json);
+    EXPECT_EQ(complaint({ "uninstall" }),
+        "the path or the identifier of an application is missing; 'korvane-cli apps' lists them");
+    EXPECT_EQ(complaint({ "uninstall", "a", "b" }), "unexpected argument 'b'");
+    for (const char* option : { "--all", "--delete", "--item=/a" }) {
+        EXPECT_NE(
+            complaint({ "uninstall", "a", option }).find("belongs to the command 'clean' only"), std::string::npos)
+            << option;
+    }
 }
 
 TEST(CommandLineTest, AllAndItemExcludeEachOther)

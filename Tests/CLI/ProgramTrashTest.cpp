@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "Tests/CLI/ProgramFixture.h"
+#include "Tests/Support/TestBundles.h"
 
 #include <csignal>
 
@@ -56,6 +57,23 @@ TEST_F(ProgramTrashTest, AllTakesWhatIsNotPreselected)
     EXPECT_EQ(run({ "clean", "systemJunk", "--all", "--yes" }), 0);
     EXPECT_FALSE(std::filesystem::exists(cache));
     EXPECT_TRUE(std::filesystem::exists(trashed("com.apple.thing")));
+}
+
+TEST_F(ProgramTrashTest, UninstallMovesTheApplicationAndItsLeftoversToTheTrash)
+{
+    const auto app = makeBundle(home() / "Applications/Painter.app", "com.example.painter");
+    const auto other = makeBundle(home() / "Applications/Other.app", "com.example.other");
+    const auto cache = home() / "Library/Caches/com.example.painter";
+    writeFile(cache / "data", std::size_t{ 9000 });
+    EXPECT_EQ(run({ "uninstall", "com.example.painter", "--yes", "--json" }), 0) << errors;
+    EXPECT_EQ(json()["cleanedCount"].toInteger(), 2);
+    EXPECT_TRUE(json()["failures"].toArray().isEmpty());
+    EXPECT_FALSE(std::filesystem::exists(app) || std::filesystem::exists(cache));
+    EXPECT_TRUE(std::filesystem::exists(trashed("Painter.app/Contents/Info.plist")));
+    EXPECT_TRUE(std::filesystem::exists(trashed("com.example.painter/data")));
+    EXPECT_TRUE(std::filesystem::exists(other));
+    EXPECT_EQ(run({ "uninstall", other, "--yes" }), 0);
+    EXPECT_NE(output.find("1 items moved to Trash or removed\n"), std::string::npos) << output;
 }
 
 TEST_F(ProgramTrashTest, InterruptedCleaningReportsExactlyWhatWasDone)

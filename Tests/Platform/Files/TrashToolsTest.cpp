@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "Tests/Platform/Files/TrashFixture.h"
+#include "Tests/Support/DesktopShell.h"
 
-#include <array>
-#include <cstdio>
-#include <cstdlib>
 #include <fstream>
 #include <map>
 #include <random>
@@ -22,30 +20,14 @@ protected:
     void SetUp() override
     {
         for (const char* tool : { "gio", "dbus-run-session", "trash-list", "trash-restore", "trash-put" })
-            ASSERT_EQ(std::system((std::string("command -v ") + tool + " >/dev/null").c_str()), 0)
+            ASSERT_TRUE(DesktopShell::hasTool(tool))
                 << tool << " is missing: install libglib2.0-bin, gvfs, gvfs-daemons, dbus-daemon and trash-cli";
-        std::filesystem::create_directory(m_folder / "run");
-        chmod((m_folder / "run").c_str(), 0700);
     }
 
     /// What a shell command says, run in the home folder.
     std::string outputOf(const std::string& command) const
     {
-        const auto script = m_folder / "script";
-        std::ofstream(script) << "export HOME='" << m_environment.home.native() << "' XDG_DATA_HOME='"
-                              << m_environment.dataHome().native() << "' XDG_RUNTIME_DIR='"
-                              << (m_folder / "run").native() << "' GVFS_DISABLE_FUSE=1 LC_ALL=C.UTF-8\n"
-                              << "unset DBUS_SESSION_BUS_ADDRESS\ncd \"$HOME\"\n"
-                              << command << '\n';
-        std::FILE* const pipe = popen(("sh '" + script.native() + "' 2>/dev/null").c_str(), "r");
-        std::string output;
-        std::array<char, 4096> buffer{};
-        for (std::size_t count = 1; count > 0;) {
-            count = std::fread(buffer.data(), 1, buffer.size(), pipe);
-            output.append(buffer.data(), count);
-        }
-        pclose(pipe);
-        return output;
+        return DesktopShell(m_environment, m_folder.path()).outputOf(command);
     }
 
     std::string gio(const std::string& arguments) const
