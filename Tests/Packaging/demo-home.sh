@@ -19,7 +19,8 @@ scripts/demo-home "$place/b/home" --small
 
 for path in Library/Caches Library/Logs Library/Developer/Xcode/DerivedData Library/Developer/CoreSimulator/Caches \
     Library/LaunchAgents "Library/Application Support/MobileSync/Backup" .Trash .local/share/Trash/info .cache tmp \
-    Applications/Fernglass.app/Contents/Info.plist Documents Movies Pictures Projects/weather-garden/node_modules; do
+    Applications/Fernglass.app/Contents/Info.plist Applications/Fernglass.app/Contents/Resources/AppIcon.icns \
+    Library/Containers/org.fernglass.Fernglass Documents Movies Pictures Projects/weather-garden/node_modules; do
     [ -e "$place/a/home/$path" ] || fail "no $path in the demo home"
 done
 cmp "$place/a/home/Pictures/2024 Brest/IMG_0412.mov" "$place/a/home/Desktop/IMG_0412 copy.mov" || fail "no duplicates"
