@@ -41,10 +41,11 @@ Bundle::Bundle(std::filesystem::path folder)
         const char* information;
         const char* resources;
     };
-    static constexpr std::array<Form, 3> forms{ {
+    static constexpr std::array<Form, 4> forms{ {
         { "Contents/Info.plist", "Contents/Resources" },
         { "Resources/Info.plist", "Resources" },
         { "Info.plist", "" },
+        { "WrappedBundle/Info.plist", "WrappedBundle" },
     } };
     for (const auto& form : forms) {
         std::error_code error;

@@ -13,8 +13,9 @@ namespace Korvane {
 
 /// A folder that the platform shows as one thing, such as an application, with the list that describes it.
 ///
-/// The description is the first file there is of "Contents/Info.plist", "Resources/Info.plist" and "Info.plist": the
-/// modern form, the old one, and the flat one of other devices. All that is in it was written by whoever made the
+/// The description is the first file there is of "Contents/Info.plist", "Resources/Info.plist", "Info.plist" and
+/// "WrappedBundle/Info.plist": the modern form, the old one, the flat one of other devices, and such a flat one within
+/// a bundle made around it (CoreFoundation's CFBundle_Internal.h). All that is in it was written by whoever made the
 /// bundle, and is given on as it stands. A value; any thread.
 class Bundle {
 public:

@@ -26,6 +26,7 @@ debian_test_packages=(
     xvfb xauth openbox xdotool imagemagick procps
     libglib2.0-bin gvfs trash-cli erofs-utils
     desktop-file-utils appstream dpkg-dev
+    clang libclang-rt-dev
 )
 debian_bench_packages=(libbenchmark-dev strace rdfind rmlint fdupes jdupes)
 
@@ -40,6 +41,7 @@ fedora_test_packages=(
     xorg-x11-server-Xvfb xorg-x11-xauth openbox xdotool ImageMagick procps-ng
     glib2 gvfs trash-cli erofs-utils
     desktop-file-utils appstream
+    clang compiler-rt
 )
 fedora_bench_packages=(google-benchmark-devel strace rdfind rmlint fdupes jdupes)
 
@@ -53,6 +55,7 @@ arch_test_packages=(
     xorg-server-xvfb xorg-xauth openbox xdotool imagemagick procps-ng
     glib2 gvfs trash-cli erofs-utils
     desktop-file-utils appstream
+    clang compiler-rt
 )
 arch_bench_packages=(benchmark strace rdfind rmlint fdupes jdupes)
 

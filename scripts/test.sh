@@ -4,8 +4,9 @@
 #
 # From a bare machine to a proof: installs what is missing, builds, runs every test.
 #
-#   scripts/test.sh           all tests; the QML linter; Platform and Core again under the sanitizers
-#   scripts/test.sh --quick   without the sanitizers
+#   scripts/test.sh           all tests; the QML linter; Platform and Core again under the
+#                             sanitizers; libFuzzer on what reads the files of others
+#   scripts/test.sh --quick   without the sanitizers and libFuzzer
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -63,7 +64,9 @@ if [ -z "$quick" ]; then
         build "$sanitizer" tests-Platform tests-Core
         ctest --preset "$sanitizer" --label-regex '^(Platform|Core)$'
     done
+    begin "breeding property lists with libFuzzer"
+    scripts/fuzz
     say "test.sh: everything passed, under the sanitizers too."
 else
-    say "test.sh: everything passed; the sanitizers were left out (--quick)."
+    say "test.sh: everything passed; the sanitizers and libFuzzer were left out (--quick)."
 fi

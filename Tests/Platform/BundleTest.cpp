@@ -66,6 +66,19 @@ TEST(Bundle, TheFirstDescriptionCounts)
     EXPECT_EQ(Bundle::open(folder / "A.app")->information(), nullptr);
 }
 
+TEST(Bundle, OneOfAnotherDeviceIsFoundInItsWrapper)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "A.app/Wrapper/Inner.app/Info.plist",
+        list("<key>CFBundleIdentifier</key><string>com.example.Inner</string>"
+             "<key>CFBundleIconFile</key><string>Icon</string>"));
+    writeFile(folder / "A.app/Wrapper/Inner.app/Icon.icns", "icon");
+    std::filesystem::create_directory_symlink("Wrapper/Inner.app", folder / "A.app/WrappedBundle");
+    const auto bundle = Bundle::open(folder / "A.app");
+    EXPECT_EQ(bundle->bundleIdentifier(), "com.example.Inner");
+    EXPECT_EQ(bundle->iconFile(), folder / "A.app/WrappedBundle/Icon.icns");
+}
+
 TEST(Bundle, OnlyAFolderIsOne)
 {
     const TemporaryFolder folder;
