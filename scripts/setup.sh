@@ -22,7 +22,7 @@ debian_packages=(
     python3 dbus
 )
 debian_test_packages=(
-    libgtest-dev libgmock-dev qml6-module-qttest
+    libgtest-dev libgmock-dev libbenchmark-dev qml6-module-qttest
     xvfb xauth openbox xdotool imagemagick procps
     libglib2.0-bin gvfs trash-cli erofs-utils
     desktop-file-utils appstream dpkg-dev
@@ -37,7 +37,7 @@ fedora_packages=(
     mesa-dri-drivers dejavu-sans-fonts rsms-inter-fonts python3 dbus-daemon
 )
 fedora_test_packages=(
-    gtest-devel gmock-devel
+    gtest-devel gmock-devel google-benchmark-devel
     xorg-x11-server-Xvfb xorg-x11-xauth openbox xdotool ImageMagick procps-ng
     glib2 gvfs trash-cli erofs-utils
     desktop-file-utils appstream
@@ -51,7 +51,7 @@ arch_packages=(
     inter-font ttf-dejavu python dbus
 )
 arch_test_packages=(
-    gtest
+    gtest benchmark
     xorg-server-xvfb xorg-xauth openbox xdotool imagemagick procps-ng
     glib2 gvfs trash-cli erofs-utils
     desktop-file-utils appstream
@@ -60,7 +60,7 @@ arch_test_packages=(
 arch_bench_packages=(benchmark strace rdfind rmlint fdupes jdupes)
 
 brew_packages=(cmake ninja pkgconf qt icu4c openssl@3 python3)
-brew_test_packages=(googletest)
+brew_test_packages=(googletest google-benchmark)
 brew_bench_packages=(google-benchmark rdfind rmlint fdupes jdupes)
 
 say() { printf '%s\n' "setup: $*" >&2; }

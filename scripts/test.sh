@@ -4,8 +4,8 @@
 #
 # From a bare machine to a proof: installs what is missing, builds, runs every test.
 #
-#   scripts/test.sh           all tests; the QML linter; Platform and Core again under the
-#                             sanitizers; libFuzzer on what reads the files of others
+#   scripts/test.sh           all tests, and each benchmark for a moment; the QML linter; Platform and
+#                             Core again under the sanitizers; libFuzzer on what reads the files of others
 #   scripts/test.sh --quick   without the sanitizers and libFuzzer
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -33,7 +33,8 @@ begin() { step="$1"; say "== $step"; }
 
 begin "building everything"
 # On the way into the project a warning is an error; on a newer compiler than ours it is nobody's fault.
-cmake --preset release -DKORVANE_BUILD_TESTS=ON ${CI:+-DKORVANE_WARNINGS_AS_ERRORS=ON}
+cmake --preset release -DKORVANE_BUILD_TESTS=ON -DKORVANE_BUILD_BENCHMARKS=ON \
+    ${CI:+-DKORVANE_WARNINGS_AS_ERRORS=ON}
 build release
 
 begin "running every test"
