@@ -10,20 +10,13 @@
 #include "Core/Uninstalling/AppInventoryScanner.h"
 #include "Core/Uninstalling/AppRemoval.h"
 #include "Platform/DisplayText.h"
+#include "Platform/TrailingSlashes.h"
 
 #include <string>
 
 namespace Korvane {
 
 namespace {
-
-/// The path without the slashes that a shell puts behind the name of a folder.
-std::string withoutTrailingSlashes(std::string path)
-{
-    while (path.size() > 1 && path.back() == '/')
-        path.pop_back();
-    return path;
-}
 
 /// The one application that was named, by its path or by its identifier.
 const InstalledApp& named(const std::vector<InstalledApp>& apps, const std::string& name)

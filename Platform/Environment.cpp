@@ -4,6 +4,7 @@
 #include "Platform/Environment.h"
 
 #include "Platform/TemporaryDirectory.h"
+#include "Platform/TrailingSlashes.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -18,13 +19,6 @@ namespace {
 
 /// Where a person without any home has theirs: absolute, and nothing is ever there to be found or removed.
 constexpr const char* noHome = "/nonexistent";
-
-std::filesystem::path withoutTrailingSlashes(std::string path)
-{
-    while (path.size() > 1 && path.back() == '/')
-        path.pop_back();
-    return path;
-}
 
 std::filesystem::path homeInPasswordDatabase()
 {

@@ -3,6 +3,8 @@
 
 #include "Platform/TemporaryDirectory.h"
 
+#include "Platform/TrailingSlashes.h"
+
 #include <climits>
 #include <string>
 #include <unistd.h>
@@ -16,9 +18,7 @@ std::filesystem::path systemTemporaryDirectory()
     const std::size_t length = ::confstr(_CS_DARWIN_USER_TEMP_DIR, buffer.data(), buffer.size());
     if (length > 1 && length <= buffer.size() && buffer.front() == '/') {
         buffer.resize(length - 1);
-        while (buffer.size() > 1 && buffer.back() == '/')
-            buffer.pop_back();
-        return buffer;
+        return withoutTrailingSlashes(buffer);
     }
     auto folder = absolutePathVariable("TMPDIR");
     return folder.empty() ? std::filesystem::path("/tmp") : folder;

@@ -4,6 +4,7 @@
 #include "Core/Scanning/HomeWalk.h"
 
 #include "Core/Scanning/ScanExclusions.h"
+#include "Platform/TrailingSlashes.h"
 
 #include <algorithm>
 #include <string_view>
@@ -12,14 +13,6 @@
 namespace Korvane {
 
 namespace {
-
-/// The folder's own text without the slashes behind it, so that paths made from it compare as plain texts.
-std::string withoutTrailingSlashes(std::string path)
-{
-    while (path.size() > 1 && path.back() == '/')
-        path.pop_back();
-    return path;
-}
 
 bool isOrLiesIn(std::string_view path, std::string_view folder)
 {

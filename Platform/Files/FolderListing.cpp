@@ -5,6 +5,7 @@
 
 #include "Platform/FileError.h"
 #include "Platform/Files/OpenFolder.h"
+#include "Platform/TrailingSlashes.h"
 
 #include <cerrno>
 #include <climits>
@@ -18,8 +19,7 @@ namespace {
 /// The folder that a long path lies in and the name it has there, so that any length can be asked for.
 int openParent(std::string_view path, FileDescriptor& parent, std::string& name)
 {
-    while (path.size() > 1 && path.back() == '/')
-        path.remove_suffix(1);
+    path = withoutTrailingSlashes(path);
     const std::size_t slash = path.rfind('/');
     name = path.substr(slash == std::string_view::npos ? 0 : slash + 1);
     if (name.empty())
