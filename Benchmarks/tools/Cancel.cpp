@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// bench-cancel FOLDER TIMES [--cold]: starts each of the walks below FOLDER again and again, cancels it at a random
-// moment of it, and prints how long the answer took: the median and the worst, in milliseconds. --cold drops the
-// system's caches before each start, as root.
+// bench-cancel FOLDER TIMES [--cold] [WALK]: starts each of the walks below FOLDER, or the one that is named, again and
+// again, cancels it at a random moment of it, and prints how long the answer took: the median and the worst, in
+// milliseconds. --cold drops the system's caches before each start, as root.
 
+#include "Core/Scanning/DuplicatesScanner.h"
 #include "Core/Scanning/LargeFilesScanner.h"
 #include "Core/Scanning/SystemJunkScanner.h"
 #include "Platform/DirectoryEnumerator.h"
@@ -19,7 +20,10 @@
 #include <cstring>
 #include <functional>
 #include <random>
+#include <string_view>
 #include <thread>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -75,10 +79,48 @@ void measure(const char* name, const Work& work, int times, bool isCold)
     }
     std::sort(answers.begin(), answers.end());
     if (answers.empty())
-        std::printf("%-20s done before each cancel\n", name);
+        std::printf("%-24s done before each cancel\n", name);
     else
-        std::printf("%-20s %4zu cancels in runs of %.0f ms: median %.2f ms, worst %.2f ms\n", name, answers.size(),
+        std::printf("%-24s %4zu cancels in runs of %.0f ms: median %.2f ms, worst %.2f ms\n", name, answers.size(),
             Milliseconds(whole).count(), answers[answers.size() / 2], answers.back());
+}
+
+/// A host with this home folder and this folder of caches.
+Korvane::Host hostWith(const std::filesystem::path& home, const std::filesystem::path& caches)
+{
+    Korvane::Environment environment;
+    environment.home = home;
+    environment.temporaryDirectory = home / "tmp";
+    environment.xdgCacheHome = caches;
+    return { environment, Korvane::makeFileManager(environment), Korvane::makeWorkspace(environment), nullptr,
+        nullptr };
+}
+
+/// The walks by name. All that lies in the folder is at stake in each: it is the home folder of `host`, and the folder
+/// of caches of `besideHome`.
+std::vector<std::pair<const char*, Work>> walksOf(
+    const std::filesystem::path& folder, const Korvane::Host& host, const Korvane::Host& besideHome)
+{
+    static const Korvane::ProgressHandler silent = [](const Korvane::ScanProgress&) {};
+    return {
+        { "enumerator",
+            [&folder](const auto& cancellation) {
+                Korvane::DirectoryEnumerator walk(folder, {}, cancellation);
+                while (walk.next()) { }
+            } },
+        { "total-size", [&folder](const auto& cancellation) { Korvane::totalAllocatedSize(folder, cancellation); } },
+        { "large-files",
+            [&host](const auto& cancellation) { Korvane::LargeFilesScanner().scan(host, silent, cancellation); } },
+        { "all-files-as-large",
+            [&host](const auto& cancellation) { Korvane::LargeFilesScanner(0).scan(host, silent, cancellation); } },
+        { "system-junk",
+            [&besideHome](
+                const auto& cancellation) { Korvane::SystemJunkScanner().scan(besideHome, silent, cancellation); } },
+        { "duplicates",
+            [&](const auto& cancellation) { Korvane::DuplicatesScanner(folder).scan(host, silent, cancellation); } },
+        { "duplicates-of-any-size",
+            [&](const auto& cancellation) { Korvane::DuplicatesScanner(folder, 0).scan(host, silent, cancellation); } },
+    };
 }
 
 } // namespace
@@ -90,29 +132,12 @@ int main(int count, char** arguments)
     const std::filesystem::path folder = arguments[1];
     const int times = std::atoi(arguments[2]);
     const bool isCold = count > 3 && std::strcmp(arguments[3], "--cold") == 0;
-    Korvane::Environment environment;
-    environment.home = folder;
-    environment.temporaryDirectory = folder / "tmp";
-    environment.xdgCacheHome = folder; // The scan of system junk measures what lies in the folder of caches.
-    const Korvane::Host host{ environment, Korvane::makeFileManager(environment), Korvane::makeWorkspace(environment),
-        nullptr, nullptr };
-    const Korvane::ProgressHandler silent = [](const Korvane::ScanProgress&) {};
-
-    measure(
-        "enumerator",
-        [&](const Korvane::Cancellation& cancellation) {
-            Korvane::DirectoryEnumerator walk(folder, {}, cancellation);
-            while (walk.next()) { }
-        },
-        times, isCold);
-    measure(
-        "totalSize", [&](const auto& cancellation) { Korvane::totalAllocatedSize(folder, cancellation); }, times,
-        isCold);
-    measure(
-        "large files", [&](const auto& cancellation) { Korvane::LargeFilesScanner().scan(host, silent, cancellation); },
-        times, isCold);
-    measure(
-        "system junk", [&](const auto& cancellation) { Korvane::SystemJunkScanner().scan(host, silent, cancellation); },
-        times, isCold);
+    const std::string_view wanted = count > (isCold ? 4 : 3) ? arguments[count - 1] : "";
+    const auto host = hostWith(folder, folder / "caches");
+    const auto besideHome = hostWith(folder.parent_path() / "nobody", folder);
+    for (const auto& [name, work] : walksOf(folder, host, besideHome)) {
+        if (wanted.empty() || wanted == name)
+            measure(name, work, times, isCold);
+    }
     return 0;
 }
