@@ -174,7 +174,7 @@ TreeRemover::Reading TreeRemover::read(Worker& worker, DoomedFolder& folder, Ope
 bool TreeRemover::removeEntry(Worker& worker, DoomedFolder& folder, OpenFolder& open, const char* name)
 {
     ++worker.removed;
-    for (bool again = true; again;) {
+    for (bool isFirstTry = true;; isFirstTry = false) {
         const int error = errorOf([&] { return unlinkat(open.descriptor(), name, 0); });
         if (error == 0 || error == ENOENT)
             return true;
@@ -187,11 +187,11 @@ bool TreeRemover::removeEntry(Worker& worker, DoomedFolder& folder, OpenFolder& 
         }
         if (error == EBUSY)
             failAtMount(folder, name);
-        again = error == EACCES && openUp(folder, open);
-        if (!again)
-            fail(error, folder, name);
+        if (error == EACCES && isFirstTry && openUp(folder, open))
+            continue;
+        fail(error, folder, name);
+        return false;
     }
-    return false;
 }
 
 void TreeRemover::addFolder(Worker& worker, DoomedFolder& parent, const char* name)
@@ -254,10 +254,11 @@ TreeRemover::Emptied TreeRemover::removeEmptied(DoomedFolder& folder)
     int error = m_cache.acquire(folder, own);
     if (error == 0)
         error = m_cache.acquire(*folder.parent, above, own.get());
-    for (bool again = error == 0; again;) {
-        error = errorOf([&] { return unlinkat(above->descriptor(), folder.name.c_str(), AT_REMOVEDIR); });
-        again = error == EACCES && openUp(*folder.parent, *above);
-    }
+    const auto remove = [&] { return unlinkat(above->descriptor(), folder.name.c_str(), AT_REMOVEDIR); };
+    if (error == 0)
+        error = errorOf(remove);
+    if (error == EACCES && above && openUp(*folder.parent, *above))
+        error = errorOf(remove);
     // Somebody else may have been faster; that is looked up, for it is reported as done.
     EntryStatus left;
     const bool isGone = error == ENOENT && above

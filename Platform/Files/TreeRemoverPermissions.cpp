@@ -12,11 +12,14 @@
 
 namespace Korvane {
 
-/// Gives this user, when the folder is theirs, the right to change it; false when nothing could be or was left to do.
+/// Gives this user, when the folder is theirs, the right to change it; false when it is as it was. True as well when
+/// another thread did so after this one was refused.
 bool TreeRemover::openUp(DoomedFolder& folder, const OpenFolder& open)
 {
     const std::lock_guard lock(m_mutex);
-    if (&folder == &m_container || folder.openedUp || folder.status->owner != geteuid())
+    if (folder.openedUp)
+        return true;
+    if (&folder == &m_container || folder.status->owner != geteuid())
         return false;
     const auto mode = static_cast<mode_t>(folder.status->mode | 0700U);
     folder.openedUp = mode != folder.status->mode && errorOf([&] { return fchmod(open.descriptor(), mode); }) == 0;
