@@ -30,7 +30,7 @@ bool isClosedFolder(const ItemPlace& item)
 int renameOpenedUp(const ItemPlace& item, int folder, const std::string& name)
 {
     const char* const from = item.name.c_str();
-    const FileIdentity& identity = item.status.identity;
+    const EntryIdentity& identity = item.status.identity;
     const std::uint32_t mode = item.status.mode;
     if (changeModeOfClosedFolder(item.parent.get(), from, identity, mode | 0200U) != 0)
         return EACCES;

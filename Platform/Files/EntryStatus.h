@@ -8,16 +8,16 @@
 namespace Korvane {
 
 /// What makes an entry this one and no other, however it is reached.
-struct FileIdentity {
+struct EntryIdentity {
     std::uint64_t device = 0;
     std::uint64_t inode = 0;
 
-    bool operator==(const FileIdentity&) const = default;
+    bool operator==(const EntryIdentity&) const = default;
 };
 
 /// What removing needs to know of one entry.
 struct EntryStatus {
-    FileIdentity identity;
+    EntryIdentity identity;
     std::uint64_t mount = 0; ///< The mount it was reached through; the device where the system does not tell.
     bool isMountRoot = false; ///< A volume, or a part of one, is mounted exactly here.
     bool isDirectory = false;

@@ -10,7 +10,7 @@
 namespace Korvane {
 namespace {
 
-int requireSame(const OpenFolder& folder, const FileIdentity& identity)
+int requireSame(const OpenFolder& folder, const EntryIdentity& identity)
 {
     EntryStatus status;
     if (const int error = readStatus(folder.descriptor(), "", Links::NotFollowed, status))

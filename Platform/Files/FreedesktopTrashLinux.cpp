@@ -54,7 +54,7 @@ void refuseToHoldItself(const ItemPlace& item, const FileDescriptor& trash)
         return;
     FileDescriptor folder;
     int error = openForTraversal(trash.get(), ".", Links::NotFollowed, folder);
-    FileIdentity last;
+    EntryIdentity last;
     for (;;) {
         EntryStatus status;
         if (error == 0)

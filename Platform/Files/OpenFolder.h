@@ -48,6 +48,6 @@ int openForTraversal(std::string_view path, FileDescriptor& folder);
 
 /// Gives the folder `name`, which cannot be opened for want of permissions, these ones. ENOENT when what is found there
 /// is not `identity`, so that no other folder is changed.
-int changeModeOfClosedFolder(int parent, const char* name, const FileIdentity& identity, std::uint32_t mode) noexcept;
+int changeModeOfClosedFolder(int parent, const char* name, const EntryIdentity& identity, std::uint32_t mode) noexcept;
 
 } // namespace Korvane

@@ -85,7 +85,7 @@ int openForTraversal(int parent, const char* name, Links links, FileDescriptor& 
     return 0;
 }
 
-int changeModeOfClosedFolder(int parent, const char* name, const FileIdentity& identity, std::uint32_t mode) noexcept
+int changeModeOfClosedFolder(int parent, const char* name, const EntryIdentity& identity, std::uint32_t mode) noexcept
 {
     FileDescriptor folder;
     if (const int error = openForTraversal(parent, name, Links::NotFollowed, folder))

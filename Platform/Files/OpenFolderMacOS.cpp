@@ -87,7 +87,7 @@ int openForTraversal(int parent, const char* name, Links links, FileDescriptor& 
     return openFolder(parent, name, links, folder);
 }
 
-int changeModeOfClosedFolder(int parent, const char* name, const FileIdentity& identity, std::uint32_t mode) noexcept
+int changeModeOfClosedFolder(int parent, const char* name, const EntryIdentity& identity, std::uint32_t mode) noexcept
 {
     EntryStatus found;
     if (const int error = readStatus(parent, name, Links::NotFollowed, found))

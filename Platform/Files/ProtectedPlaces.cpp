@@ -48,7 +48,7 @@ void ProtectedPlaces::addFoldersAbove()
     FileDescriptor folder;
     if (m_names.empty() || openForTraversal(m_home.native(), folder) != 0)
         return;
-    FileIdentity below;
+    EntryIdentity below;
     EntryStatus status;
     while (readStatus(folder.get(), "", Links::NotFollowed, status) == 0 && !(status.identity == below)) {
         below = status.identity;

@@ -33,7 +33,7 @@ private:
 
     std::filesystem::path m_home;
     std::vector<std::string> m_names;
-    std::vector<FileIdentity> m_identities; ///< Found when first asked for.
+    std::vector<EntryIdentity> m_identities; ///< Found when first asked for.
 };
 
 } // namespace Korvane

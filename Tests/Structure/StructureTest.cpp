@@ -6,6 +6,9 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <map>
+#include <regex>
+#include <set>
 
 namespace Korvane::Structure {
 
@@ -45,6 +48,27 @@ TEST(Structure, EveryIncludeOfTheProjectExists)
             }
         }
     }
+}
+
+// Two types of one name in two headers: the linker would take the functions of one for those of the other.
+TEST(Structure, EveryTypeIsDefinedInOneHeader)
+{
+    static const std::regex definition(R"(^(?:class|struct|enum class) (\w+)(?: final)?(?: : [^;]*)?(?: \{.*)?$)");
+    const std::set<std::string> outbuildings{ "Benchmarks", "Tests" };
+    std::map<std::string, std::filesystem::path> headers;
+    for (const SourceText& file : readProject(root)) {
+        if (!file.isHeader() || outbuildings.contains(file.room()))
+            continue;
+        for (const std::string& line : file.lines) {
+            std::smatch match;
+            if (!std::regex_match(line, match, definition))
+                continue;
+            const auto [known, isNew] = headers.emplace(match[1].str(), file.path);
+            EXPECT_TRUE(isNew) << match[1].str() << " in " << known->second << " and in " << file.path;
+        }
+    }
+    EXPECT_TRUE(
+        headers.contains("ScanItem") && headers.contains("FolderCache") && headers.contains("LargeFilesScanner"));
 }
 
 } // namespace Korvane::Structure
