@@ -52,7 +52,8 @@ bool TrashRecord::isGone() const
 
 void TrashRecord::takeBack()
 {
-    errorOf([&] { return unlinkat(m_info, fileName(m_name).c_str(), 0); });
+    if (!isGone()) // Else what has the name now is somebody else's.
+        errorOf([&] { return unlinkat(m_info, fileName(m_name).c_str(), 0); });
     m_file.close();
 }
 
