@@ -163,9 +163,11 @@ Cleaner::Result Program::cleanEach(const std::vector<ScanItem>& items, CommandLi
 {
     TerminalProgress terminal;
     Cleaner::Result result;
+    const bool moveToTrash = removal == CommandLine::Removal::MoveToTrash;
+    const auto run = moveToTrash ? m_host.files->beginTrashing() : nullptr; // One for all items.
     for (std::size_t i = 0; i < items.size() && !m_cancellation.isCancelled(); ++i) {
         terminal.showCleaning(i + 1, items.size(), displayText(items[i].url));
-        append(result, Cleaner::clean({ items[i] }, removal == CommandLine::Removal::MoveToTrash, *m_host.files));
+        append(result, Cleaner::clean({ items[i] }, moveToTrash, *m_host.files));
     }
     return result;
 }

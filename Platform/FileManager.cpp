@@ -72,9 +72,10 @@ public:
 
     std::shared_ptr<void> beginTrashing() override
     {
-        auto run = std::make_shared<TrashRun>(m_environment.home);
         const std::lock_guard lock(m_mutex);
-        m_run = run;
+        auto run = m_run.lock();
+        if (!run)
+            m_run = run = std::make_shared<TrashRun>(m_environment.home);
         return run;
     }
 

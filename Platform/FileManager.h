@@ -50,7 +50,8 @@ public:
     virtual std::filesystem::path trashItem(const std::filesystem::path& path) = 0;
 
     /// Begins a run of moves to the Trash: until what is returned is gone, folders that its items share stay open in
-    /// place of being opened for each. Each move does and refuses what it does without. May be null.
+    /// place of being opened for each. Each move does and refuses what it does without. A run begun within another is that one. May
+    /// be null.
     virtual std::shared_ptr<void> beginTrashing() { return nullptr; }
 
     /// Deletes for good what lies in one of the Trash folders; the folder itself stays.

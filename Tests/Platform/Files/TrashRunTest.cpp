@@ -100,6 +100,18 @@ TEST_F(TrashRunTest, NothingStaysOpenAfterIt)
     EXPECT_EQ(openDescriptors(), after);
 }
 
+TEST_F(TrashRunTest, ARunWithinItIsTheSame)
+{
+    const std::size_t before = openDescriptors();
+    {
+        const auto inner = m_files->beginTrashing();
+        EXPECT_EQ(trashing(home("folder/second")), "");
+        EXPECT_EQ(openDescriptors(), before);
+    }
+    EXPECT_EQ(trashing(home("folder/third")), "");
+    EXPECT_EQ(openDescriptors(), before);
+}
+
 TEST_F(TrashRunTest, TwoThreadsShareIt)
 {
     constexpr int items = 200;
