@@ -5,6 +5,7 @@
 
 #include "Platform/Hashing/PrefixReader.h"
 #include "Platform/Sha256.h"
+#include "Platform/Walking/ReadingScope.h"
 
 #include <utility>
 
@@ -20,6 +21,7 @@ FileDigest::~FileDigest() = default;
 
 std::optional<std::string> FileDigest::nextPrefixHash()
 {
+    const ReadingScope reading;
     Sha256 sha256;
     for (;;) {
         const auto* const portion = m_reader->next();

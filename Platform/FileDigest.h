@@ -17,14 +17,14 @@ namespace Korvane {
 
 class PrefixReader;
 
-/// SHA-256 digests of the first bytes of regular files, one file after another, while the next ones are being read.
+/// SHA-256 digests of the first bytes of regular files, one file after another, while the system fetches the next ones.
 ///
-/// Holds two buffers of at most the prefix (4 MiB each when that is larger) for all files, and at most 8 open files.
-/// One thread at a time.
+/// A file is read once, from its start to the end of the prefix and no further. Holds one buffer of 256 KiB at most and
+/// 8 open files. One thread at a time.
 class FileDigest {
 public:
-    /// The path of the file of this number. Called on a thread of the digest's own, only for files whose digest has not
-    /// been given yet; the path must stay until it has.
+    /// The path of the file of this number. Called by nextPrefixHash(), only for files whose digest has not been given
+    /// yet; the path must stay until it returns.
     using PathAt = std::function<const std::filesystem::path&(std::size_t)>;
 
     /// At most `prefixBytes` from the start of each of `files` files are read; none when it is not positive.

@@ -6,22 +6,16 @@
 #include "Platform/Hashing/ReadPortion.h"
 #include "Platform/Hashing/UpcomingPortions.h"
 
-#include <array>
-#include <condition_variable>
-#include <exception>
-#include <mutex>
-#include <thread>
-
 namespace Korvane {
 
-/// Reads the first bytes of files, one after another, on a thread of its own: one portion ahead of whoever takes them.
+/// Reads the first bytes of files once and in order, while the system is told ahead what comes next.
 ///
-/// Holds two buffers of at most a portion. To be used on one thread.
+/// Whoever takes the portions reads them too: what was just copied is still in that core's caches, where a second
+/// thread's copy would have to be fetched from another core. Holds one buffer of 256 KiB at most. One thread at a time.
 class PrefixReader {
 public:
     PrefixReader(
         std::size_t files, UpcomingPortions::PathAt pathAt, std::int64_t prefixBytes, const Cancellation& cancellation);
-    ~PrefixReader();
     PrefixReader(const PrefixReader&) = delete;
     PrefixReader& operator=(const PrefixReader&) = delete;
 
@@ -31,26 +25,15 @@ public:
     const ReadPortion* next();
 
 private:
-    void run() noexcept;
-    void readAll();
-    ReadPortion* waitForFreeBuffer();
-    void read(ReadPortion& target);
-    const ReadPortion* readHere();
-    std::size_t capacity() const noexcept;
+    void readFirst();
+    void popFirst();
+    std::int64_t capacity() const noexcept;
 
     const std::int64_t m_prefixBytes;
     const Cancellation m_cancellation;
     UpcomingPortions m_upcoming;
-    std::array<ReadPortion, 2> m_portions;
-    std::size_t m_first = 0; ///< The one that next() gave or gives.
-    std::size_t m_filled = 0; ///< How many are read and not yet given back.
-    bool m_isTaken = false; ///< next() has given the first one away.
-    bool m_hasEnded = false;
-    bool m_isStopping = false;
-    std::exception_ptr m_failure;
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    std::thread m_thread; ///< None when the system has none left: next() reads by itself.
+    std::int64_t m_done = 0; ///< Bytes of the first upcoming portion that have been read.
+    ReadPortion m_portion;
 };
 
 } // namespace Korvane

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <fstream>
 #include <optional>
 #include <thread>
 
@@ -59,7 +60,31 @@ protected:
     }
 };
 
+/// How many bytes this process has taken in by reading so far (proc_pid_io(5)).
+std::int64_t bytesRead()
+{
+    std::ifstream counters("/proc/self/io");
+    std::string name;
+    std::int64_t value = -1;
+    while (counters >> name >> value && name != "rchar:") { }
+    return value;
+}
+
 } // namespace
+
+TEST_F(DigestFixture, NothingIsReadTwiceOrBeyondThePrefix)
+{
+    const std::vector files{ make("short", std::string(1000, 's')), make("exact", std::string(mebibyte, 'e')),
+        make("long", std::string(9 * mebibyte, 'l')) };
+    prefixHash(make("first", ""), prefix); // The library reads its settings once.
+    const auto before = bytesRead();
+    const auto counting = bytesRead() - before;
+    const auto start = bytesRead();
+    prefixHashes(files, prefix);
+    const auto read = bytesRead() - start - counting;
+    // The figures of the counters themselves may take a digit more from one look to the next.
+    EXPECT_NEAR(static_cast<double>(read), static_cast<double>(1000 + mebibyte + prefix), 16);
+}
 
 TEST_F(FileDigestCacheTest, ColdFilesAreNotInMemoryAfterwards)
 {

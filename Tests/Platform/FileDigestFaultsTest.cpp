@@ -152,25 +152,6 @@ TEST_F(FileDigestFaultsTest, OneFreeDescriptorIsEnough)
         "same");
 }
 
-TEST_F(FileDigestFaultsTest, NoFreeThreadCostsNothingButTime)
-{
-    const auto files = makeMany(30);
-    const auto expected = prefixHashes(files, 20);
-    giveToOrdinaryUser(folder.path());
-    const auto answer = runAsOrdinaryUser([&] {
-        limit(RLIMIT_NPROC, 0);
-        try {
-            std::thread([] {}).join();
-            return std::string("not limited");
-        } catch (const std::system_error&) {
-            return sameOrDifferent(prefixHashes(files, 20), expected);
-        }
-    });
-    if (answer == "not limited")
-        GTEST_SKIP() << "this system counts only processes, not threads";
-    EXPECT_EQ(answer, "same");
-}
-
 TEST_F(FileDigestFaultsTest, ScanThatIsGivenUpLeavesNothingOpen)
 {
     const auto files = makeMany(60);

@@ -75,6 +75,21 @@ TEST_F(FileDigestTest, PrefixLargerThanOneReadIsHashedWhole)
     EXPECT_EQ(prefixHash(file, 8'500'000), digestOf(content.substr(0, 8'500'000)));
 }
 
+TEST_F(FileDigestTest, FilesAndPrefixesThatEndAtTheEdgeOfAPieceAreHashedWhole)
+{
+    // A piece has 256 KiB, and the system is told of 4 MiB at a time.
+    for (const std::size_t edge : { 262'144U, 524'288U, 4'194'304U }) {
+        for (const std::size_t size : { edge - 1, edge, edge + 1 }) {
+            std::string content(size, 'x');
+            content.back() = 'y';
+            const auto file = make("edge", content);
+            for (const std::size_t prefix : { edge - 1, edge, edge + 1 })
+                EXPECT_EQ(prefixHash(file, static_cast<std::int64_t>(prefix)), digestOf(content.substr(0, prefix)))
+                    << size << " bytes, of which " << prefix << " count";
+        }
+    }
+}
+
 TEST_F(FileDigestTest, FilesAreGivenInTheirOrder)
 {
     std::vector<std::filesystem::path> files;
