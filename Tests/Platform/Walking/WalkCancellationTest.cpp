@@ -4,6 +4,7 @@
 #include "Platform/DirectoryEnumerator.h"
 #include "Platform/TreeMeasure.h"
 #include "Platform/Walking/DirectoryReader.h"
+#include "Tests/Platform/Walking/BeforeValues.h"
 #include "Tests/Platform/Walking/RandomTree.h"
 #include "Tests/Support/TemporaryFolder.h"
 
@@ -11,9 +12,6 @@
 
 #include <atomic>
 #include <string>
-
-#include <dlfcn.h>
-#include <sys/stat.h>
 
 namespace {
 
@@ -35,17 +33,7 @@ struct Countdown {
 
 Countdown countdown;
 
-using AskForValues = int(int, const char*, int, unsigned, struct statx*);
-
 } // namespace
-
-/// Takes the place of the C library's own, so that a cancel comes at a known moment.
-extern "C" int statx(int folder, const char* path, int flags, unsigned mask, struct statx* status) noexcept
-{
-    static auto* const original = reinterpret_cast<AskForValues*>(dlsym(RTLD_NEXT, "statx"));
-    countdown.count();
-    return original(folder, path, flags, mask, status);
-}
 
 namespace Korvane {
 namespace {
@@ -63,9 +51,14 @@ protected:
         countdown.untilCancel = filesUntilCancel;
         countdown.afterwards = 0;
         countdown.cancellation = &m_cancellation;
+        setBeforeValues([] { countdown.count(); });
     }
 
-    void TearDown() override { countdown.cancellation = nullptr; }
+    void TearDown() override
+    {
+        setBeforeValues(nullptr);
+        countdown.cancellation = nullptr;
+    }
 
     /// Each reader, and the thread that waits for them, looks at every eighth entry.
     static int mostAfterwards() { return 8 * (static_cast<int>(DirectoryReader::readerCount()) + 1); }
