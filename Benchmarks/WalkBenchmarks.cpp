@@ -65,6 +65,25 @@ void enumerateTree(benchmark::State& state, PrefetchedValues values)
 BENCHMARK_CAPTURE(enumerateTree, withValues, PrefetchedValues::FileValues)->Arg(1)->Arg(100)->Arg(4000)->UseRealTime();
 BENCHMARK_CAPTURE(enumerateTree, typesOnly, PrefetchedValues::TypeOnly)->Arg(1)->Arg(100)->Arg(4000)->UseRealTime();
 
+/// As a search for large files does it: the files, all too small, are counted in the readers.
+void passOverSmallFiles(benchmark::State& state)
+{
+    const Tree tree(state.range(0));
+    for (auto _ : state) {
+        EnumerationOptions options;
+        options.values = PrefetchedValues::AllocatedSizes;
+        options.smallestAllocatedSize = 1'000'000;
+        DirectoryEnumerator walk(tree.root(), options);
+        std::int64_t count = 0;
+        while (const auto* entry = walk.next())
+            count += entry->passedOver() > 0 ? entry->passedOver() : 1;
+        if (count != tree.entries())
+            state.SkipWithError("the walk missed something");
+    }
+    state.SetItemsProcessed(state.iterations() * tree.entries());
+}
+BENCHMARK(passOverSmallFiles)->Arg(1)->Arg(100)->Arg(4000)->UseRealTime();
+
 void measureTree(benchmark::State& state)
 {
     const Tree tree(state.range(0));
