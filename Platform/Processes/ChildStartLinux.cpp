@@ -5,7 +5,7 @@
 
 #include "Platform/FileError.h"
 #include "Platform/Files/Retry.h"
-#include "Platform/Processes/ChildPipe.h"
+#include "Platform/Processes/ChildPipes.h"
 
 #include <array>
 #include <cerrno>
@@ -103,13 +103,11 @@ StartedChild startChild(const ChildStart& start)
 {
     const auto arguments = pointersTo(start.arguments);
     const auto environment = pointersTo(start.environment);
-    auto input = ChildPipe::open(start.program);
-    auto output = ChildPipe::open(start.program);
-    auto errorOutput = ChildPipe::open(start.program);
+    ChildPipes pipes(start.program);
     auto report = ChildPipe::open(start.program);
     const pid_t child = forkQuietly({ start.program.c_str(), arguments.data(), environment.data(),
-        { input.readEnd.get(), output.writeEnd.get(), errorOutput.writeEnd.get() }, report.writeEnd.get(),
-        ::getpid() });
+        { pipes.input.readEnd.get(), pipes.output.writeEnd.get(), pipes.errorOutput.writeEnd.get() },
+        report.writeEnd.get(), ::getpid() });
     if (child < 0)
         throw FileError(start.program, std::error_code(errno, std::generic_category()));
     report.writeEnd.close();
@@ -117,9 +115,7 @@ StartedChild startChild(const ChildStart& start)
         retryInterrupted([&] { return ::waitpid(child, nullptr, 0); });
         throw FileError(start.program, std::error_code(error, std::generic_category()));
     }
-    for (const auto* end : { &input.writeEnd, &output.readEnd, &errorOutput.readEnd })
-        setNonBlocking(*end);
-    return { child, std::move(input.writeEnd), std::move(output.readEnd), std::move(errorOutput.readEnd) };
+    return std::move(pipes).givenTo(child);
 }
 
 } // namespace Korvane

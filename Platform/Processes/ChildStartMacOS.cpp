@@ -4,7 +4,7 @@
 #include "Platform/Processes/ChildStart.h"
 
 #include "Platform/FileError.h"
-#include "Platform/Processes/ChildPipe.h"
+#include "Platform/Processes/ChildPipes.h"
 
 #include <csignal>
 #include <fcntl.h>
@@ -60,22 +60,18 @@ StartedChild startChild(const ChildStart& start)
 {
     const auto arguments = pointersTo(start.arguments);
     const auto environment = pointersTo(start.environment);
-    auto input = ChildPipe::open(start.program);
-    auto output = ChildPipe::open(start.program);
-    auto errorOutput = ChildPipe::open(start.program);
+    ChildPipes pipes(start.program);
     SpawnActions actions;
-    actions.give(input.readEnd, 0);
-    actions.give(output.writeEnd, 1);
-    actions.give(errorOutput.writeEnd, 2);
+    actions.give(pipes.input.readEnd, 0);
+    actions.give(pipes.output.writeEnd, 1);
+    actions.give(pipes.errorOutput.writeEnd, 2);
     const SpawnAttributes attributes;
     pid_t child = -1;
     const int error = ::posix_spawn(
         &child, start.program.c_str(), actions.get(), attributes.get(), arguments.data(), environment.data());
     if (error != 0)
         throw FileError(start.program, std::error_code(error, std::generic_category()));
-    for (const auto* end : { &input.writeEnd, &output.readEnd, &errorOutput.readEnd })
-        setNonBlocking(*end);
-    return { child, std::move(input.writeEnd), std::move(output.readEnd), std::move(errorOutput.readEnd) };
+    return std::move(pipes).givenTo(child);
 }
 
 } // namespace Korvane

@@ -8,10 +8,13 @@
 #include "Tests/Support/Sentinel.h"
 #include "Tests/Support/TemporaryFolder.h"
 
+#include <fcntl.h>
 #include <functional>
 #include <gtest/gtest.h>
+#include <initializer_list>
 #include <memory>
 #include <string>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Korvane {
@@ -38,6 +41,25 @@ inline std::filesystem::path fastPlace()
 {
     const std::filesystem::path memory = "/dev/shm";
     return access(memory.c_str(), W_OK) == 0 ? memory : std::filesystem::temp_directory_path();
+}
+
+/// Makes a folder far below `top`, by a path that is longer than the system takes, with these files in it.
+inline std::filesystem::path makeLongFolder(std::filesystem::path top, std::initializer_list<const char*> files)
+{
+    int folder = open(top.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    for (int level = 0; level < 30; ++level) {
+        const std::string name(250, static_cast<char>('a' + level % 26));
+        EXPECT_EQ(mkdirat(folder, name.c_str(), 0700), 0);
+        const int next = openat(folder, name.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        close(folder);
+        folder = next;
+        top /= name;
+    }
+    for (const char* file : files)
+        close(openat(folder, file, O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
+    close(folder);
+    EXPECT_GT(top.native().size(), 4096U);
+    return top;
 }
 
 /// A home folder of a test's own, its file manager, and a file outside of every item that must survive.

@@ -149,21 +149,8 @@ TEST_F(RemovalTest, ABigTreeSharedAmongThreads)
 
 TEST_F(RemovalTest, PathsLongerThanTheSystemTakes)
 {
-    std::filesystem::path path = home("top");
-    std::filesystem::create_directory(path);
-    int folder = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    for (int level = 0; level < 30; ++level) {
-        const std::string name(250, static_cast<char>('a' + level % 26));
-        ASSERT_EQ(mkdirat(folder, name.c_str(), 0700), 0);
-        const int next = openat(folder, name.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        close(folder);
-        folder = next;
-        path /= name;
-    }
-    close(openat(folder, "file", O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
-    close(openat(folder, "other", O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
-    close(folder);
-    ASSERT_GT(path.native().size(), 4096U);
+    std::filesystem::create_directory(home("top"));
+    const auto path = makeLongFolder(home("top"), { "file", "other" });
     EXPECT_TRUE(m_files->fileExists(path / "file"));
     EXPECT_FALSE(m_files->fileExists(path / "none"));
     EXPECT_EQ(m_files->contentsOfDirectory(path).size(), 2U);

@@ -190,18 +190,7 @@ TEST_F(TrashTest, AReadOnlyHomeIsReported)
 
 TEST_F(TrashTest, PathsLongerThanTheSystemTakes)
 {
-    std::filesystem::path path = m_environment.home;
-    int folder = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    for (int level = 0; level < 30; ++level) {
-        const std::string name(250, 'd');
-        ASSERT_EQ(mkdirat(folder, name.c_str(), 0700), 0);
-        const int next = openat(folder, name.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        close(folder);
-        folder = next;
-        path /= name;
-    }
-    close(openat(folder, "file", O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
-    close(folder);
+    const auto path = makeLongFolder(m_environment.home, { "file" });
     EXPECT_EQ(trashing(path / "file"), "");
     EXPECT_FALSE(m_files->fileExists(path / "file"));
     EXPECT_TRUE(isThere(m_trash.file("file")));

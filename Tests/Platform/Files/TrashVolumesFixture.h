@@ -45,6 +45,14 @@ protected:
         return (isSame ? "untouched" : "touched") + records;
     }
 
+    /// What comes of moving the item while something else lies in the place of its Trash.
+    std::string refusingTheTrash() const
+    {
+        const std::string failure = trashing(m_volume / "folder/item");
+        return (failure.find("is not a folder of this user") != std::string::npos ? "refused, " : failure)
+            + untouched();
+    }
+
     /// What a machine without private mounts can show: a folder that is taken for the top of a volume.
     std::string trashingAtTop() const
     {

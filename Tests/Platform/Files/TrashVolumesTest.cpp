@@ -95,9 +95,7 @@ TEST_F(TrashVolumesTest, AnotherUsersTrashIsRefused)
         } else if (chown(ownTrash().path.c_str(), 12345, 12345) != 0) {
             return std::string("chown failed");
         }
-        const std::string failure = trashing(m_volume / "folder/item");
-        return (failure.find("is not a folder of this user") != std::string::npos ? "refused, " : failure)
-            + untouched();
+        return refusingTheTrash();
     }),
         "refused, untouched");
 }
@@ -108,9 +106,7 @@ TEST_F(TrashVolumesTest, ATrashThatIsALinkIsRefused)
         return expectRulesKept();
     EXPECT_EQ(onVolume([&] {
         std::filesystem::create_directory_symlink(m_sentinel.path().parent_path(), ownTrash().path);
-        const std::string failure = trashing(m_volume / "folder/item");
-        return (failure.find("is not a folder of this user") != std::string::npos ? "refused, " : failure)
-            + untouched();
+        return refusingTheTrash();
     }),
         "refused, untouched");
     EXPECT_FALSE(isThere(m_sentinel.path().parent_path() / "files"));
@@ -122,9 +118,7 @@ TEST_F(TrashVolumesTest, ATrashThatIsAFileIsRefused)
         return expectRulesKept();
     EXPECT_EQ(onVolume([&] {
         writeFile(ownTrash().path, "a file");
-        const std::string failure = trashing(m_volume / "folder/item");
-        return (failure.find("is not a folder of this user") != std::string::npos ? "refused, " : failure)
-            + untouched();
+        return refusingTheTrash();
     }),
         "refused, untouched");
 }
