@@ -45,9 +45,9 @@ public:
     bool fileExists(const std::filesystem::path& path) const override { return isAnythingAt(path); }
 
     std::vector<std::filesystem::path> contentsOfDirectory(
-        const std::filesystem::path& folder, HiddenFiles hidden) const override
+        const std::filesystem::path& folder, HiddenFiles hidden, const Cancellation& cancellation) const override
     {
-        return childrenOf(folder, hidden);
+        return childrenOf(folder, hidden, cancellation);
     }
 
     void removeItem(const std::filesystem::path& path) override

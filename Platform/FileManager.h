@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Platform/Cancellation.h"
 #include "Platform/Environment.h"
 
 #include <filesystem>
@@ -34,8 +35,9 @@ public:
     virtual bool fileExists(const std::filesystem::path& path) const = 0;
 
     /// The direct children of a folder, as full paths, in the order in which the file system lists them.
-    virtual std::vector<std::filesystem::path> contentsOfDirectory(
-        const std::filesystem::path& folder, HiddenFiles hidden = HiddenFiles::Included) const = 0;
+    /// Throws CancellationError when cancelled.
+    virtual std::vector<std::filesystem::path> contentsOfDirectory(const std::filesystem::path& folder,
+        HiddenFiles hidden = HiddenFiles::Included, const Cancellation& cancellation = {}) const = 0;
 
     /// Deletes a file, a link or a whole folder tree for good.
     ///

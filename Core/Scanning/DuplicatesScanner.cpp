@@ -10,6 +10,7 @@
 #include "Platform/Checked.h"
 #include "Platform/DisplayText.h"
 #include "Platform/FileDigest.h"
+#include "Platform/FreedElsewhere.h"
 
 #include <algorithm>
 #include <string>
@@ -32,7 +33,7 @@ struct SizeGroup {
 std::vector<Candidate> candidates(const DuplicatesScanner& scanner, const std::filesystem::path& home,
     const ProgressHandler& progress, const Cancellation& cancellation)
 {
-    std::vector<Candidate> found;
+    FreedElsewhere<std::vector<Candidate>> found;
     const auto atMark = [&](const DirectoryEntry& entry) { progress({ displayText(entry.parentPath()), 0, 0 }); };
     HomeWalk::Files files;
     files.smallestFileSize = scanner.minimumFileSize;
@@ -40,10 +41,10 @@ std::vector<Candidate> candidates(const DuplicatesScanner& scanner, const std::f
     while (const auto* file = walk.nextFile()) {
         const auto& values = file->values();
         if (values.fileSize && *values.fileSize >= scanner.minimumFileSize)
-            found.emplace_back(file->path(), *values.fileSize, values.contentModificationDate);
+            found->emplace_back(file->path(), *values.fileSize, values.contentModificationDate);
     }
-    sortBySize(found);
-    return found;
+    sortBySize(*found);
+    return std::move(*found);
 }
 
 /// Where the files of the same size as the first end.
@@ -97,9 +98,9 @@ public:
         const auto keptName = displayName(kept.url);
         const auto label
             = keptName + " \u2014 " + std::to_string(set.size()) + " copies, " + formattedBytes(kept.size) + " each";
-        m_items.emplace_back(kept.url, keptName + " (original)", label, kept.size, false);
+        m_items->emplace_back(kept.url, keptName + " (original)", label, kept.size, false);
         for (auto copy = set.begin() + 1; copy != set.end(); ++copy) {
-            m_items.emplace_back(copy->url, std::nullopt, label, copy->size, true);
+            m_items->emplace_back(copy->url, std::nullopt, label, copy->size, true);
             m_found.currentPath = displayText(copy->url);
             m_found.itemsFound = checkedAdd(m_found.itemsFound, 1);
             m_found.bytesFound = checkedAdd(m_found.bytesFound, copy->size);
@@ -107,12 +108,12 @@ public:
         }
     }
 
-    std::vector<ScanItem> takeItems() { return std::move(m_items); }
+    std::vector<ScanItem> takeItems() { return std::move(*m_items); }
 
 private:
     const ProgressHandler& m_progress;
     ScanProgress m_found;
-    std::vector<ScanItem> m_items;
+    FreedElsewhere<std::vector<ScanItem>> m_items;
 };
 
 } // namespace
@@ -128,7 +129,8 @@ DuplicatesScanner::DuplicatesScanner(
 std::vector<ScanItem> DuplicatesScanner::scan(
     const Host& host, const ProgressHandler& progress, const Cancellation& cancellation) const
 {
-    auto files = candidates(*this, host.files->homeDirectoryForCurrentUser(), progress, cancellation);
+    FreedElsewhere list(candidates(*this, host.files->homeDirectoryForCurrentUser(), progress, cancellation));
+    auto& files = *list;
     removeUniqueSizes(files);
     // Files are read ahead across sizes; a file that has its digest may leave its place in the list.
     const auto pathAt = [&](std::size_t index) -> const std::filesystem::path& { return files[index].url; };

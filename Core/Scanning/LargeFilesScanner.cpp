@@ -6,10 +6,11 @@
 #include "Core/Scanning/HomeWalk.h"
 #include "Platform/Checked.h"
 #include "Platform/DisplayText.h"
+#include "Platform/FreedElsewhere.h"
+#include "Platform/NameSet.h"
 
 #include <algorithm>
 #include <string>
-#include <unordered_set>
 #include <utility>
 
 namespace Korvane {
@@ -38,9 +39,9 @@ std::vector<ScanItem> LargeFilesScanner::scan(
     const Host& host, const ProgressHandler& progress, const Cancellation& cancellation) const
 {
     const auto home = host.files->homeDirectoryForCurrentUser();
-    std::vector<ScanItem> items;
+    FreedElsewhere<std::vector<ScanItem>> items;
     // A folder that changes while it is read may list a file twice.
-    std::unordered_set<std::string> known;
+    FreedElsewhere<NameSet> known;
     ScanProgress found;
     const auto atMark = [&](const DirectoryEntry& entry) {
         found.currentPath = displayText(entry.parentPath());
@@ -55,15 +56,15 @@ std::vector<ScanItem> LargeFilesScanner::scan(
         if (!size || *size < thresholdBytes)
             continue;
         auto path = file->path();
-        if (!known.insert(path.native()).second)
+        if (!known->insert(path.native()))
             continue;
-        items.emplace_back(std::move(path), displayText(file->name()), category, *size, false);
+        items->emplace_back(std::move(path), displayText(file->name()), category, *size, false);
         found.itemsFound = checkedAdd(found.itemsFound, 1);
         found.bytesFound = checkedAdd(found.bytesFound, *size);
         progress(found);
     }
-    keepLargest(items, maxResults);
-    return items;
+    keepLargest(*items, maxResults);
+    return std::move(*items);
 }
 
 } // namespace Korvane

@@ -11,6 +11,7 @@
 #include "Platform/Checked.h"
 #include "Platform/DisplayText.h"
 #include "Platform/FileError.h"
+#include "Platform/FreedElsewhere.h"
 
 #include <algorithm>
 #include <chrono>
@@ -57,9 +58,9 @@ public:
             if (m_host.files->fileExists(location.url))
                 scanLocation(location);
         }
-        std::stable_sort(m_items.begin(), m_items.end(),
+        std::stable_sort(m_items->begin(), m_items->end(),
             [](const ScanItem& left, const ScanItem& right) { return left.sizeInBytes > right.sizeInBytes; });
-        return std::move(m_items);
+        return std::move(*m_items);
     }
 
 private:
@@ -81,7 +82,8 @@ private:
     void scanEachChild(const JunkLocation& location)
     {
         const auto others = placesBeside(location);
-        for (const auto& child : visibleChildren(location.url)) {
+        FreedElsewhere children(visibleChildren(location.url));
+        for (const auto& child : *children) {
             m_cancellation.throwIfCancelled();
             // What holds a place of its own is not offered as a cache, nor is that place listed twice.
             if (location.provider == Provider::Host && others.isOrContainsPlace(child))
@@ -104,7 +106,8 @@ private:
     void scanSharedFolder(const JunkLocation& location)
     {
         const SharedTemporaryFolder shared(placesBeside(location), std::chrono::system_clock::now());
-        for (const auto& child : visibleChildren(location.url)) {
+        FreedElsewhere children(visibleChildren(location.url));
+        for (const auto& child : *children) {
             m_cancellation.throwIfCancelled();
             if (shared.isUnused(child, m_cancellation))
                 addIfNotEmpty(child, location, false);
@@ -114,7 +117,7 @@ private:
     std::vector<std::filesystem::path> visibleChildren(const std::filesystem::path& folder) const
     {
         try {
-            return m_host.files->contentsOfDirectory(folder, HiddenFiles::Skipped);
+            return m_host.files->contentsOfDirectory(folder, HiddenFiles::Skipped, m_cancellation);
         } catch (const FileError&) {
             return {};
         }
@@ -139,7 +142,7 @@ private:
         const auto size = FileSizeCalculator::totalSize(url, m_cancellation);
         if (size < 1)
             return;
-        m_items.emplace_back(url, std::nullopt, std::string(location.category), size, selectableByDefault);
+        m_items->emplace_back(url, std::nullopt, std::string(location.category), size, selectableByDefault);
         m_found.itemsFound = checkedAdd(m_found.itemsFound, 1);
         m_found.bytesFound = checkedAdd(m_found.bytesFound, size);
         m_progress(m_found);
@@ -152,7 +155,7 @@ private:
     bool m_xcodeRunning;
     std::vector<JunkLocation> m_locations;
     ScanProgress m_found;
-    std::vector<ScanItem> m_items;
+    FreedElsewhere<std::vector<ScanItem>> m_items;
 };
 
 } // namespace

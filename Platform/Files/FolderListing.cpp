@@ -5,13 +5,14 @@
 
 #include "Platform/FileError.h"
 #include "Platform/Files/OpenFolder.h"
+#include "Platform/FreedElsewhere.h"
+#include "Platform/NameSet.h"
 #include "Platform/TrailingSlashes.h"
 
 #include <cerrno>
 #include <climits>
 #include <fcntl.h>
 #include <string_view>
-#include <unordered_set>
 
 namespace Korvane {
 namespace {
@@ -30,7 +31,8 @@ int openParent(std::string_view path, FileDescriptor& parent, std::string& name)
 
 } // namespace
 
-std::vector<std::filesystem::path> childrenOf(const std::filesystem::path& folder, HiddenFiles hidden)
+std::vector<std::filesystem::path> childrenOf(
+    const std::filesystem::path& folder, HiddenFiles hidden, const Cancellation& cancellation)
 {
     FileDescriptor parent;
     FileDescriptor opened;
@@ -43,18 +45,19 @@ std::vector<std::filesystem::path> childrenOf(const std::filesystem::path& folde
     OpenFolder open(std::move(opened));
     EntryBatch batch;
     // A folder that changes while it is read may list a name twice.
-    std::unordered_set<std::string> known;
-    std::vector<std::filesystem::path> children;
+    FreedElsewhere<NameSet> known;
+    FreedElsewhere<std::vector<std::filesystem::path>> children;
     do {
+        cancellation.throwIfCancelled();
         if ((error = open.read(batch)) != 0)
             throw FileError(folder, std::error_code(error, std::system_category()));
         for (const EntryBatch::Entry& entry : batch.entries) {
             const bool isWanted = hidden == HiddenFiles::Included || !isHidden(open.descriptor(), entry.name);
-            if (isWanted && known.insert(entry.name).second)
-                children.push_back(folder / entry.name);
+            if (isWanted && known->insert(entry.name))
+                children->push_back(folder / entry.name);
         }
     } while (!batch.entries.empty());
-    return children;
+    return std::move(*children);
 }
 
 bool isAnythingAt(const std::filesystem::path& path)

@@ -10,8 +10,10 @@
 
 namespace Korvane {
 
-/// The direct children of a folder as full paths, in the order of the file system. Throws FileError.
-std::vector<std::filesystem::path> childrenOf(const std::filesystem::path& folder, HiddenFiles hidden);
+/// The direct children of a folder as full paths, in the order of the file system. Throws FileError and
+/// CancellationError.
+std::vector<std::filesystem::path> childrenOf(
+    const std::filesystem::path& folder, HiddenFiles hidden, const Cancellation& cancellation);
 
 /// Whether something exists at the path, links followed.
 bool isAnythingAt(const std::filesystem::path& path);

@@ -35,11 +35,12 @@ public:
     std::vector<Path> additionalTrashDirectories() const override { return m_real->additionalTrashDirectories(); }
     bool fileExists(const Path& path) const override { return m_real->fileExists(path); }
 
-    std::vector<Path> contentsOfDirectory(const Path& folder, HiddenFiles hidden) const override
+    std::vector<Path> contentsOfDirectory(
+        const Path& folder, HiddenFiles hidden, const Cancellation& cancellation) const override
     {
         if (beforeListing)
             beforeListing(folder);
-        return m_real->contentsOfDirectory(folder, hidden);
+        return m_real->contentsOfDirectory(folder, hidden, cancellation);
     }
     void removeItem(const Path& path) override
     {

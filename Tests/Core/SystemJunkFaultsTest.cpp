@@ -121,6 +121,17 @@ TEST_F(SystemJunkFaultsTest, CancelledMidwayThrowsBeforeTheNextChild)
     EXPECT_EQ(calls, 6);
 }
 
+TEST_F(SystemJunkFaultsTest, CancelledWhileAFolderIsListedThrowsBeforeItsFirstChild)
+{
+    makeCache("cache");
+    const Cancellation cancellation;
+    const auto files = std::make_shared<ForwardingFileManager>(host().files);
+    files->beforeListing = [&](const std::filesystem::path&) { cancellation.cancel(); };
+    host().files = files;
+    EXPECT_THROW((void)scanJunk(cancellation), CancellationError);
+    EXPECT_TRUE(reports().empty());
+}
+
 TEST_F(SystemJunkFaultsTest, TemporaryDirectoryInsideTheHomeFolderIsOneItem)
 {
     auto environment = host().environment;

@@ -7,8 +7,10 @@
 #include "Tests/Support/Sentinel.h"
 #include "Tests/Support/TemporaryFolder.h"
 
+#include <chrono>
 #include <gtest/gtest.h>
 #include <set>
+#include <thread>
 
 namespace Korvane {
 namespace {
@@ -31,9 +33,9 @@ TEST_F(FileManagerTest, ListsHiddenEntriesOnlyWhenAsked)
     writeFile(m_folder / "list/seen", "x");
     writeFile(m_folder / "list/.hidden", "x");
     const auto all = m_files->contentsOfDirectory(m_folder / "list");
-    const std::set<std::filesystem::path> expected { m_folder / "list/seen", m_folder / "list/.hidden" };
+    const std::set<std::filesystem::path> expected{ m_folder / "list/seen", m_folder / "list/.hidden" };
     EXPECT_EQ(std::set<std::filesystem::path>(all.begin(), all.end()), expected);
-    const std::vector<std::filesystem::path> seen { m_folder / "list/seen" };
+    const std::vector<std::filesystem::path> seen{ m_folder / "list/seen" };
     EXPECT_EQ(m_files->contentsOfDirectory(m_folder / "list", HiddenFiles::Skipped), seen);
 }
 
@@ -47,6 +49,34 @@ TEST_F(FileManagerTest, SaysWhyAFolderCannotBeListed)
         EXPECT_EQ(error.code(), std::errc::no_such_file_or_directory);
         EXPECT_EQ(error.localizedDescription(), "No such file or directory");
     }
+}
+
+TEST_F(FileManagerTest, StopsListingWhenCancelled)
+{
+    constexpr int files = 20'000;
+    for (int index = 0; index < files; ++index)
+        writeFile(m_folder / "many" / std::to_string(index), "");
+    const auto isStopped = [&] {
+        const Cancellation cancellation;
+        std::thread canceller([&] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            cancellation.cancel();
+        });
+        bool stopped = false;
+        try {
+            EXPECT_EQ(m_files->contentsOfDirectory(m_folder / "many", HiddenFiles::Skipped, cancellation).size(),
+                static_cast<std::size_t>(files));
+        } catch (const CancellationError&) {
+            stopped = true;
+        }
+        canceller.join();
+        return stopped;
+    };
+    // On a machine that is busy with other tests a cancel may come when all is listed.
+    bool stopped = false;
+    for (int attempt = 0; attempt < 50 && !stopped; ++attempt)
+        stopped = isStopped();
+    EXPECT_TRUE(stopped);
 }
 
 TEST_F(FileManagerTest, FollowsLinksToSeeWhetherSomethingExists)

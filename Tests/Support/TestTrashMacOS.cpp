@@ -32,9 +32,10 @@ public:
     std::vector<Path> additionalCacheDirectories() const override { return m_real->additionalCacheDirectories(); }
     std::vector<Path> additionalTrashDirectories() const override { return m_real->additionalTrashDirectories(); }
     bool fileExists(const Path& path) const override { return m_real->fileExists(path); }
-    std::vector<Path> contentsOfDirectory(const Path& folder, HiddenFiles hidden) const override
+    std::vector<Path> contentsOfDirectory(
+        const Path& folder, HiddenFiles hidden, const Cancellation& cancellation) const override
     {
-        return m_real->contentsOfDirectory(folder, hidden);
+        return m_real->contentsOfDirectory(folder, hidden, cancellation);
     }
     std::shared_ptr<void> beginTrashing() override { return m_real->beginTrashing(); }
     void removeItem(const Path& path) override { m_real->removeItem(path); }

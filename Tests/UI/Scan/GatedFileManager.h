@@ -35,9 +35,9 @@ public:
     }
     bool fileExists(const std::filesystem::path& path) const override { return m_real->fileExists(path); }
     std::vector<std::filesystem::path> contentsOfDirectory(
-        const std::filesystem::path& folder, HiddenFiles hidden) const override
+        const std::filesystem::path& folder, HiddenFiles hidden, const Cancellation& cancellation) const override
     {
-        return m_real->contentsOfDirectory(folder, hidden);
+        return m_real->contentsOfDirectory(folder, hidden, cancellation);
     }
     void removeItem(const std::filesystem::path& path) override
     {
