@@ -50,7 +50,7 @@ Item {
             closePolicy: T.Popup.NoAutoClose
 
             contentItem: Text {
-                text: tip.text
+                text: ShownText.isolated(tip.text)
                 textFormat: Text.PlainText
                 font.family: Theme.fontFamily
                 font.pixelSize: Theme.caption

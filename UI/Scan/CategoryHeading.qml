@@ -11,7 +11,7 @@ import Korvane.UI
 ///
 /// On Qt 6.4 a list makes its headings in a context in which a component of another file cannot be bound, so this one is
 /// loaded by its address, is given nothing but the category, and finds its list by itself.
-Rectangle {
+Item {
     id: heading
 
     required property string section
@@ -30,9 +30,6 @@ Rectangle {
 
     width: heading.list === null ? 0 : heading.list.width
     implicitHeight: 44
-    // The card's own colour, but opaque: rows pass beneath.
-    color: Qt.tint(Theme.window, Theme.cardBackground)
-    radius: Theme.radiusCard
     onRowsChanged: heading.refresh()
     onSectionChanged: heading.refresh()
 
@@ -44,6 +41,15 @@ Rectangle {
         }
     }
 
+    Rectangle {
+        anchors.fill: parent
+        // As wide as what passes beneath, so that it leaves the round corners of the card alone.
+        anchors.leftMargin: Theme.spacing
+        anchors.rightMargin: Theme.spacing
+        // The card's own colour, but opaque.
+        color: Qt.tint(Theme.window, Theme.cardBackground)
+        radius: Theme.spacingTiny
+    }
     CheckBox {
         x: 20
         anchors.verticalCenter: parent.verticalCenter
@@ -65,7 +71,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         style: Label.Headline
         elide: Text.ElideMiddle
-        text: heading.section
+        text: ShownText.isolated(heading.section)
         Accessible.role: Accessible.Heading
     }
     Label {

@@ -98,8 +98,8 @@ FocusScope {
     Card {
         anchors.top: summary.bottom
         anchors.topMargin: Theme.spacingHuge
-        anchors.bottom: parent.bottom
-        anchors.bottomMargin: Theme.spacingHuge
+        // No taller than what it lists.
+        height: Math.min(parent.height - y - Theme.spacingHuge, failures.fullHeight + 2)
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.leftMargin: Theme.pageMargin
@@ -107,6 +107,8 @@ FocusScope {
         visible: view.unfolded
 
         FailuresList {
+            id: failures
+
             anchors.fill: parent
             anchors.margins: 1
             model: view.viewModel.failures

@@ -11,6 +11,9 @@ import Korvane.UI
 ListView {
     id: list
 
+    /// What the list takes when nothing of it needs to be scrolled to.
+    readonly property real fullHeight: list.count * 56 + list.topMargin + list.bottomMargin
+
     clip: true
     activeFocusOnTab: true
     reuseItems: true
@@ -63,14 +66,14 @@ ListView {
             Label {
                 width: parent.width
                 elide: Text.ElideMiddle
-                text: row.path
+                text: ShownText.isolated(row.path)
                 Accessible.ignored: true
             }
             Label {
                 width: parent.width
                 style: Label.Callout
                 color: Theme.secondaryLabel
-                text: row.message
+                text: ShownText.isolated(row.message)
                 Accessible.ignored: true
             }
         }

@@ -17,15 +17,16 @@ Item {
 
     /// Whether the pointer rests on the shield.
     readonly property bool shieldHovered: shieldHover.hovered
-    readonly property real nameColumn: content.width * (content.width > 900 ? 0.5 : 0.46)
+    /// How much of the width belongs to the name and its shield.
+    readonly property real nameColumn: Math.round(content.width * (content.width > 900 ? 0.52 : 0.49))
 
     Label {
         id: nameText
 
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, content.nameColumn)
+        width: Math.min(implicitWidth, content.nameColumn - (content.shielded ? shield.width + Theme.spacing : 0))
         elide: Text.ElideMiddle
-        text: content.name
+        text: ShownText.isolated(content.name)
         Accessible.ignored: true
     }
     Symbol {
@@ -44,13 +45,13 @@ Item {
         }
     }
     Label {
-        x: content.nameColumn + Theme.spacingHuge + Theme.spacing
+        x: content.nameColumn + Theme.spacingLarge
         anchors.verticalCenter: parent.verticalCenter
         width: sizeText.x - x - Theme.spacingLarge
         style: Label.Callout
         color: Theme.tertiaryLabel
         elide: Text.ElideMiddle
-        text: content.folder
+        text: ShownText.isolated(content.folder)
         Accessible.ignored: true
     }
     Label {

@@ -36,6 +36,10 @@ ListView {
     reuseItems: true
     boundsBehavior: Flickable.StopAtBounds
     highlightMoveDuration: 0
+    // What the keyboard goes to is never under the heading that stays at the top.
+    highlightRangeMode: ListView.ApplyRange
+    preferredHighlightBegin: 44
+    preferredHighlightEnd: list.height
     bottomMargin: Theme.spacing
     currentIndex: 0
     Accessible.role: Accessible.List

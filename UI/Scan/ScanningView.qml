@@ -62,7 +62,7 @@ FocusScope {
             style: Label.Caption
             color: Theme.tertiaryLabel
             elide: Text.ElideMiddle
-            text: view.viewModel.progress.currentPath
+            text: ShownText.isolated(view.viewModel.progress.currentPath)
         }
         Item {
             width: 1

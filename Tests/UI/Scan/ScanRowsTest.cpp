@@ -4,6 +4,7 @@
 #include "Tests/UI/Scan/ScanScreenFixture.h"
 
 #include <QAccessible>
+#include <QKeySequence>
 #include <QTest>
 
 using namespace Korvane;
@@ -56,6 +57,8 @@ private:
     void scanSongs() const;
     /// Compares each row that can be seen with the heading above it.
     void verifyHeadings() const;
+    /// Whether the row that the keyboard acts on can be seen whole.
+    bool isFocusShown() const;
 
     const char* songs = "song.flac \u2014 3 copies, 1.2 MB each";
 };
@@ -214,6 +217,13 @@ void ScanRowsTest::verifyHeadings() const
     QVERIFY2(compared > 4, qPrintable(QString::number(rows.size()) + " rows"));
 }
 
+bool ScanRowsTest::isFocusShown() const
+{
+    QQuickItem* row = window()->activeFocusItem();
+    const QQuickItem* list = row->parentItem()->parentItem();
+    return isShown(row) && row->mapToItem(list, QPointF(0, row->height())).y() <= list->height();
+}
+
 void ScanRowsTest::everyRowIsUnderTheHeadingOfItsSetWhereverTheListGoes()
 {
     for (int set = 0; set < 30; ++set) {
@@ -227,7 +237,7 @@ void ScanRowsTest::everyRowIsUnderTheHeadingOfItsSetWhereverTheListGoes()
     tabTo("Rescan");
     key(Qt::Key_Tab);
     const std::vector<Qt::Key> moves{ Qt::Key_End, Qt::Key_Home, Qt::Key_PageDown, Qt::Key_PageDown, Qt::Key_PageDown,
-        Qt::Key_PageUp, Qt::Key_End, Qt::Key_PageUp, Qt::Key_Home };
+        Qt::Key_PageUp, Qt::Key_Up, Qt::Key_End, Qt::Key_PageUp, Qt::Key_Up, Qt::Key_PageUp, Qt::Key_Home };
     QTest::qWait(150);
     verifyHeadings();
     for (const Qt::Key move : moves) {
@@ -236,6 +246,7 @@ void ScanRowsTest::everyRowIsUnderTheHeadingOfItsSetWhereverTheListGoes()
         verifyHeadings();
         if (QTest::currentTestFailed())
             return;
+        QVERIFY2(isFocusShown(), qPrintable(QKeySequence(move).toString()));
     }
 }
 

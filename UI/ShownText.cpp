@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "UI/ShownText.h"
+
+#include <algorithm>
+
+namespace Korvane {
+
+namespace {
+
+constexpr QChar firstStrongIsolate(0x2068);
+constexpr QChar popDirectionalIsolate(0x2069);
+
+/// A character of the text and where the next one begins, in UTF-16 units.
+struct Character {
+    char32_t code;
+    qsizetype end;
+};
+
+Character characterAt(QStringView text, qsizetype position)
+{
+    const QChar first = text[position];
+    if (first.isHighSurrogate() && position + 1 < text.size() && text[position + 1].isLowSurrogate())
+        return { QChar::surrogateToUcs4(first, text[position + 1]), position + 2 };
+    return { first.unicode(), position + 1 };
+}
+
+bool isRightToLeft(QChar::Direction direction)
+{
+    return direction == QChar::DirR || direction == QChar::DirAL || direction == QChar::DirAN;
+}
+
+/// Appends what stands between two slashes, or at an end of the text.
+void appendIsolated(QString& shown, QStringView part)
+{
+    qsizetype begin = -1;
+    qsizetype end = -1;
+    for (qsizetype position = 0; position < part.size();) {
+        const Character character = characterAt(part, position);
+        const QChar::Direction direction = QChar::direction(character.code);
+        if (isRightToLeft(direction)) {
+            if (begin < 0)
+                begin = position;
+            end = character.end;
+        } else if (direction == QChar::DirNSM && end == position) {
+            end = character.end; // A mark goes with its letter.
+        }
+        position = character.end;
+    }
+    if (begin < 0) {
+        shown += part;
+        return;
+    }
+    shown += part.first(begin);
+    shown += firstStrongIsolate;
+    shown += part.sliced(begin, end - begin);
+    shown += popDirectionalIsolate;
+    shown += part.sliced(end);
+}
+
+} // namespace
+
+QString ShownText::isolated(const QString& text)
+{
+    constexpr char16_t firstRightToLeft = 0x590;
+    // Nothing that is written from right to left comes before it: most texts are told at a glance.
+    if (std::all_of(text.begin(), text.end(), [](QChar unit) { return unit.unicode() < firstRightToLeft; }))
+        return text;
+    QString shown;
+    shown.reserve(text.size() + 8);
+    for (qsizetype begin = 0; begin <= text.size();) {
+        const qsizetype slash = text.indexOf(QLatin1Char('/'), begin);
+        const qsizetype end = slash < 0 ? text.size() : slash;
+        appendIsolated(shown, QStringView(text).sliced(begin, end - begin));
+        if (slash >= 0)
+            shown += QLatin1Char('/');
+        begin = end + 1;
+    }
+    return shown;
+}
+
+} // namespace Korvane
