@@ -8,17 +8,14 @@
 ///     missing
 
 #include "App/KorvaneApp.h"
+#include "Benchmarks/tools/MainThreadWatch.h"
 #include "Platform/Host.h"
 
-#include <QAbstractEventDispatcher>
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QQuickWindow>
 #include <QTimer>
 
-#include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <filesystem>
 #include <fstream>
 
@@ -26,13 +23,6 @@ namespace fs = std::filesystem;
 using namespace Korvane;
 
 namespace {
-
-double threadMilliseconds()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
 
 void makeHome(const fs::path& home)
 {
@@ -46,48 +36,6 @@ void makeHome(const fs::path& home)
             std::ofstream(folder / std::to_string(file)) << file;
     }
 }
-
-/// Watches how long each turn of the event loop takes.
-class Watch {
-public:
-    Watch()
-    {
-        auto* dispatcher = QAbstractEventDispatcher::instance();
-        QObject::connect(dispatcher, &QAbstractEventDispatcher::awake, dispatcher, [this] { begin(); });
-        QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, dispatcher, [this] { end(); });
-    }
-
-    void restart()
-    {
-        m_longest = m_longestOwn = 0;
-        begin();
-    }
-    void report(const char* what)
-    {
-        end();
-        std::printf(
-            "%-10s longest turn %7.1f ms by the clock, %7.1f ms of the thread's own\n", what, m_longest, m_longestOwn);
-    }
-
-private:
-    void begin()
-    {
-        m_wall.start();
-        m_own = threadMilliseconds();
-    }
-    void end()
-    {
-        if (!m_wall.isValid())
-            return;
-        m_longest = std::max(m_longest, static_cast<double>(m_wall.nsecsElapsed()) / 1e6);
-        m_longestOwn = std::max(m_longestOwn, threadMilliseconds() - m_own);
-    }
-
-    QElapsedTimer m_wall;
-    double m_own = 0;
-    double m_longest = 0;
-    double m_longestOwn = 0;
-};
 
 } // namespace
 
@@ -106,7 +54,7 @@ int main(int argc, char* argv[])
     KorvaneApp korvane(host);
     if (!korvane.start())
         return 1;
-    Watch watch;
+    MainThreadWatch watch;
     auto* content = korvane.mainWindow()->property("viewModel").value<ContentViewModel*>();
     QTimer::singleShot(2000, &application, [&] {
         korvane.state().requestScan(CleanerModule::systemJunk);

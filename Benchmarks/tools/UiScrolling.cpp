@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// How long the main thread is held up while the real window shows very many sets of duplicates and the keyboard goes
+/// through them: prints for each key the longest turn of the event loop.
+///
+///     bench-ui-scrolling FOLDER [SETS]    the home is "home" in the folder; 50,000 sets of two unless told otherwise
+
+#include "App/KorvaneApp.h"
+#include "Benchmarks/tools/MainThreadWatch.h"
+#include "Platform/Host.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTimer>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+using namespace Korvane;
+
+namespace {
+
+/// Finds so many sets of two at once.
+class SetsScanner final : public JunkScanner {
+public:
+    explicit SetsScanner(int sets)
+        : m_sets(sets)
+    {
+    }
+
+    std::vector<ScanItem> scan(const Host& host, const ProgressHandler&, const Cancellation&) const override
+    {
+        std::vector<ScanItem> items;
+        for (int set = 0; set < m_sets; ++set) {
+            const std::string name = "IMG_" + std::to_string(set) + ".JPG";
+            const std::string label = name + " \u2014 2 copies, 1 MB each";
+            const auto& home = host.environment.home;
+            items.emplace_back(home / "Pictures/Holiday" / name, name + " (original)", label, 1'000'000, false);
+            items.emplace_back(home / "Downloads/From the old laptop" / name, name, label, 1'000'000, true);
+        }
+        return items;
+    }
+
+private:
+    int m_sets;
+};
+
+struct Step {
+    const char* name;
+    Qt::Key key;
+    int times;
+};
+
+/// Presses the keys one after the other, each when the window has settled after the one before.
+class Journey : public QObject {
+public:
+    Journey(QQuickWindow* window, MainThreadWatch& watch)
+        : m_window(window)
+        , m_watch(watch)
+    {
+        m_pace.setInterval(60);
+        connect(&m_pace, &QTimer::timeout, this, [this] { press(); });
+    }
+
+    void begin(QQuickItem* list)
+    {
+        m_list = list;
+        m_pace.start();
+    }
+
+private:
+    void press()
+    {
+        static constexpr Step steps[] = { { "End", Qt::Key_End, 1 }, { "Home", Qt::Key_Home, 1 },
+            { "PageDown", Qt::Key_PageDown, 40 }, { "Down", Qt::Key_Down, 40 }, { "End", Qt::Key_End, 1 },
+            { "PageUp", Qt::Key_PageUp, 40 }, { "Up", Qt::Key_Up, 40 }, { "Space", Qt::Key_Space, 4 },
+            { "Home", Qt::Key_Home, 1 } };
+        if (m_pressed == 0)
+            m_watch.restart();
+        const Step& step = steps[m_step];
+        if (m_pressed++ < step.times) {
+            for (const auto type : { QEvent::KeyPress, QEvent::KeyRelease })
+                QCoreApplication::postEvent(m_window, new QKeyEvent(type, step.key, Qt::NoModifier));
+            return;
+        }
+        m_watch.report(step.name);
+        std::printf("%-10s row %d\n", "", m_list->property("currentIndex").toInt());
+        m_pressed = 0;
+        if (++m_step == std::size(steps))
+            QCoreApplication::quit();
+    }
+
+    QQuickWindow* m_window;
+    QQuickItem* m_list = nullptr;
+    MainThreadWatch& m_watch;
+    QTimer m_pace;
+    std::size_t m_step = 0;
+    int m_pressed = 0;
+};
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (argc < 2) {
+        std::fputs("usage: bench-ui-scrolling FOLDER [SETS]\n", stderr);
+        return 2;
+    }
+    const int sets = argc > 2 ? std::atoi(argv[2]) : 50'000;
+    const Environment environment = Environment::inFolder(std::filesystem::absolute(argv[1]));
+    qputenv("QT_NO_GLIB", "1");
+    QApplication application(argc, argv);
+    KorvaneApp korvane(makeHost(environment));
+    if (!korvane.start())
+        return 1;
+    MainThreadWatch watch;
+    Journey journey(korvane.mainWindow(), watch);
+    QTimer::singleShot(1000, &application, [&] {
+        korvane.state().setSelectedModule(CleanerModule::duplicates);
+        auto* scan = korvane.mainWindow()->property("viewModel").value<ContentViewModel*>()->scan();
+        watch.restart();
+        scan->start(std::make_shared<SetsScanner>(sets));
+        QTimer::singleShot(3000, &application, [&] {
+            watch.report("showing");
+            QQuickItem* list = korvane.mainWindow()->contentItem();
+            do
+                list = list->nextItemInFocusChain();
+            while (!list->inherits("QQuickListView"));
+            list->forceActiveFocus(Qt::TabFocusReason);
+            journey.begin(list);
+        });
+    });
+    return QApplication::exec();
+}
