@@ -31,6 +31,25 @@ bool isRightToLeft(QChar::Direction direction)
     return direction == QChar::DirR || direction == QChar::DirAL || direction == QChar::DirAN;
 }
 
+/// Takes into a stretch the brackets right beside it whose partners it holds: a pair is drawn as one only together.
+void takeInBrackets(QStringView text, qsizetype& begin, qsizetype& end)
+{
+    int unclosed = 0;
+    int unopened = 0;
+    for (const QChar unit : text.sliced(begin, end - begin)) {
+        if (unit.category() == QChar::Punctuation_Open)
+            ++unclosed;
+        else if (unit.category() == QChar::Punctuation_Close && unclosed > 0)
+            --unclosed;
+        else if (unit.category() == QChar::Punctuation_Close)
+            ++unopened;
+    }
+    for (; unclosed > 0 && end < text.size() && text[end].category() == QChar::Punctuation_Close; --unclosed)
+        ++end;
+    for (; unopened > 0 && begin > 0 && text[begin - 1].category() == QChar::Punctuation_Open; --unopened)
+        --begin;
+}
+
 /// Appends what stands between two slashes, or at an end of the text.
 void appendIsolated(QString& shown, QStringView part)
 {
@@ -52,6 +71,7 @@ void appendIsolated(QString& shown, QStringView part)
         shown += part;
         return;
     }
+    takeInBrackets(part, begin, end);
     shown += part.first(begin);
     shown += firstStrongIsolate;
     shown += part.sliced(begin, end - begin);

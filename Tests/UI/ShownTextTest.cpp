@@ -65,6 +65,9 @@ void ShownTextTest::aNameTurnsNothingAroundIt_data()
     row("path", "~/\u05D0\u05D1/\u05D2\u05D3/7", "~/\u05D1\u05D0/\u05D3\u05D2/7");
     row("name after ours", "IMG \u05D0\u05D1.jpg", "IMG \u05D1\u05D0.jpg");
     row("two words", "\u05D0\u05D1 \u05D2\u05D3.jpg", "\u05D3\u05D2 \u05D1\u05D0.jpg");
+    row("brackets at the end", "\u05D0 (\u05D1).pdf", ")\u05D1( \u05D0.pdf");
+    row("brackets at the beginning", "(\u05D0) \u05D1.pdf", "\u05D1 )\u05D0(.pdf");
+    row("brackets around all", "(\u05D0\u05D1) 2.pdf", "(\u05D1\u05D0) 2.pdf");
     row("quoted", "\u201C/a/\u05D0\u05D1\u201D is a link.", "\u201C/a/\u05D1\u05D0\u201D is a link.");
 }
 
