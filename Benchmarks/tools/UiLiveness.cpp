@@ -2,16 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// How long the main thread is held up while the real window scans a home: prints the longest and the total time
-/// between two returns to the event loop, by the clock on the wall and by the thread's own processor time.
+/// of one event, by the clock on the wall and by the thread's own processor time.
 ///
 ///     bench-ui-liveness FOLDER    "home" in the folder is scanned; it is filled with 40,000 caches of 12 files if
 ///     missing
 
 #include "App/KorvaneApp.h"
-#include "Benchmarks/tools/MainThreadWatch.h"
+#include "Benchmarks/tools/WatchedApplication.h"
 #include "Platform/Host.h"
 
-#include <QApplication>
 #include <QQuickWindow>
 #include <QTimer>
 
@@ -47,32 +46,29 @@ int main(int argc, char* argv[])
     }
     const Environment environment = Environment::inFolder(fs::absolute(argv[1]));
     makeHome(environment.home);
-    // With GLib the event loop does not tell when it has woken up.
-    qputenv("QT_NO_GLIB", "1");
-    QApplication application(argc, argv);
+    WatchedApplication application(argc, argv);
     const Host host = makeHost(environment);
     KorvaneApp korvane(host);
     if (!korvane.start())
         return 1;
-    MainThreadWatch watch;
     auto* content = korvane.mainWindow()->property("viewModel").value<ContentViewModel*>();
     QTimer::singleShot(2000, &application, [&] {
         korvane.state().requestScan(CleanerModule::systemJunk);
-        watch.restart();
+        application.restart();
         QObject::connect(content->scan(), &ScanViewModel::phaseChanged, &application, [&] {
-            watch.report("scanning");
+            application.report("scanning");
             std::printf("%zu items\n", content->scan()->items().size());
-            watch.restart();
+            application.restart();
             QTimer::singleShot(1000, &application, [&] {
-                watch.report("results");
-                watch.restart();
+                application.report("results");
+                application.restart();
                 content->scan()->toggleSelectAll();
                 QTimer::singleShot(1000, &application, [&] {
-                    watch.report("ticking");
+                    application.report("ticking");
                     QCoreApplication::quit();
                 });
             });
         });
     });
-    return QApplication::exec();
+    return WatchedApplication::exec();
 }

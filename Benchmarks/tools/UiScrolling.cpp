@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// How long the main thread is held up while the real window shows very many sets of duplicates and the keyboard goes
-/// through them: prints for each key the longest turn of the event loop.
+/// through them: prints for each key the longest time that an event held it.
 ///
 ///     bench-ui-scrolling FOLDER [SETS]    the home is "home" in the folder; 50,000 sets of two unless told otherwise
 
 #include "App/KorvaneApp.h"
-#include "Benchmarks/tools/MainThreadWatch.h"
+#include "Benchmarks/tools/WatchedApplication.h"
 #include "Platform/Host.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -58,9 +57,9 @@ struct Step {
 /// Presses the keys one after the other, each when the window has settled after the one before.
 class Journey : public QObject {
 public:
-    Journey(QQuickWindow* window, MainThreadWatch& watch)
+    Journey(QQuickWindow* window, WatchedApplication& application)
         : m_window(window)
-        , m_watch(watch)
+        , m_application(application)
     {
         m_pace.setInterval(60);
         connect(&m_pace, &QTimer::timeout, this, [this] { press(); });
@@ -75,19 +74,19 @@ public:
 private:
     void press()
     {
-        static constexpr Step steps[] = { { "End", Qt::Key_End, 1 }, { "Home", Qt::Key_Home, 1 },
-            { "PageDown", Qt::Key_PageDown, 40 }, { "Down", Qt::Key_Down, 40 }, { "End", Qt::Key_End, 1 },
-            { "PageUp", Qt::Key_PageUp, 40 }, { "Up", Qt::Key_Up, 40 }, { "Space", Qt::Key_Space, 4 },
-            { "Home", Qt::Key_Home, 1 } };
+        static constexpr Step steps[]
+            = { { "End", Qt::Key_End, 1 }, { "Home", Qt::Key_Home, 1 }, { "PageDown", Qt::Key_PageDown, 40 },
+                  { "Down", Qt::Key_Down, 40 }, { "End", Qt::Key_End, 1 }, { "PageUp", Qt::Key_PageUp, 40 },
+                  { "Up", Qt::Key_Up, 40 }, { "Space", Qt::Key_Space, 4 }, { "Home", Qt::Key_Home, 1 } };
         if (m_pressed == 0)
-            m_watch.restart();
+            m_application.restart();
         const Step& step = steps[m_step];
         if (m_pressed++ < step.times) {
             for (const auto type : { QEvent::KeyPress, QEvent::KeyRelease })
                 QCoreApplication::postEvent(m_window, new QKeyEvent(type, step.key, Qt::NoModifier));
             return;
         }
-        m_watch.report(step.name);
+        m_application.report(step.name);
         std::printf("%-10s row %d\n", "", m_list->property("currentIndex").toInt());
         m_pressed = 0;
         if (++m_step == std::size(steps))
@@ -96,7 +95,7 @@ private:
 
     QQuickWindow* m_window;
     QQuickItem* m_list = nullptr;
-    MainThreadWatch& m_watch;
+    WatchedApplication& m_application;
     QTimer m_pace;
     std::size_t m_step = 0;
     int m_pressed = 0;
@@ -112,20 +111,18 @@ int main(int argc, char* argv[])
     }
     const int sets = argc > 2 ? std::atoi(argv[2]) : 50'000;
     const Environment environment = Environment::inFolder(std::filesystem::absolute(argv[1]));
-    qputenv("QT_NO_GLIB", "1");
-    QApplication application(argc, argv);
+    WatchedApplication application(argc, argv);
     KorvaneApp korvane(makeHost(environment));
     if (!korvane.start())
         return 1;
-    MainThreadWatch watch;
-    Journey journey(korvane.mainWindow(), watch);
+    Journey journey(korvane.mainWindow(), application);
     QTimer::singleShot(1000, &application, [&] {
         korvane.state().setSelectedModule(CleanerModule::duplicates);
         auto* scan = korvane.mainWindow()->property("viewModel").value<ContentViewModel*>()->scan();
-        watch.restart();
+        application.restart();
         scan->start(std::make_shared<SetsScanner>(sets));
         QTimer::singleShot(3000, &application, [&] {
-            watch.report("showing");
+            application.report("showing");
             QQuickItem* list = korvane.mainWindow()->contentItem();
             do
                 list = list->nextItemInFocusChain();
@@ -134,5 +131,5 @@ int main(int argc, char* argv[])
             journey.begin(list);
         });
     });
-    return QApplication::exec();
+    return WatchedApplication::exec();
 }
