@@ -7,6 +7,7 @@
 #include "Tests/Platform/Walking/DeepTree.h"
 #include "Tests/Platform/Walking/PlainWalk.h"
 #include "Tests/Platform/Walking/RandomTree.h"
+#include "Tests/Support/CancelMidway.h"
 #include "Tests/Support/OrdinaryUser.h"
 #include "Tests/Support/TemporaryFolder.h"
 
@@ -170,26 +171,8 @@ TEST_F(WalkLimitsTest, DeliversNothingAfterACancel)
 TEST_F(WalkLimitsTest, StopsMeasuringWhenCancelled)
 {
     makeManyFiles(m_folder / "many", 60'000);
-    const auto isStopped = [&] {
-        const Cancellation cancellation;
-        std::thread canceller([&] {
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-            cancellation.cancel();
-        });
-        bool stopped = false;
-        try {
-            totalAllocatedSize(m_folder.path(), cancellation);
-        } catch (const CancellationError&) {
-            stopped = true;
-        }
-        canceller.join();
-        return stopped;
-    };
-    // On a machine that is busy with other tests a cancel may come when all is measured.
-    bool stopped = false;
-    for (int attempt = 0; attempt < 50 && !stopped; ++attempt)
-        stopped = isStopped();
-    EXPECT_TRUE(stopped);
+    const auto measure = [&](const Cancellation& cancellation) { totalAllocatedSize(m_folder.path(), cancellation); };
+    EXPECT_TRUE(stopsWhenCancelled(measure, std::chrono::milliseconds(5)));
 }
 
 TEST_F(WalkLimitsTest, PassesOverFoldersThatCannotBeReadAndReportsThemInOrder)
