@@ -62,6 +62,8 @@ const DirectoryEntry* DirectoryEnumerator::Walk::next()
         }
         leavePart();
     }
+    // Readers leave off when cancelled; what they left out is not to be taken for the end.
+    m_cancellation.throwIfCancelled();
     return nullptr;
 }
 

@@ -122,8 +122,8 @@ void TreeSum::readPart(const WalkFolderReference& folder, Folders& own, Director
         return;
     const auto before = own.size();
     bool isLong = false;
-    while (!isLong && reader.list(descriptor, error)) {
-        isLong = reader.isNearlyFull();
+    for (int count = 1; !isLong && !m_cancellation.isCancelled() && reader.list(descriptor, error); ++count) {
+        isLong = reader.isNearlyFull() || count == DirectoryReader::listingsOfALongPart;
         if (isLong)
             goOnLater(folder, own, reader);
         addEntries(folder, descriptor, own, reader, sum);

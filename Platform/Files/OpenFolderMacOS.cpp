@@ -42,10 +42,12 @@ int OpenFolder::read(EntryBatch& batch)
     batch.entries.clear();
     batch.bytes.clear();
     if (!m_stream) {
-        // The stream takes over the descriptor it reads, so it gets one of its own.
-        FileDescriptor own;
-        if (const int error = openFolder(m_descriptor.get(), ".", Links::NotFollowed, own))
-            return error;
+        // The stream takes over the descriptor it reads, so it gets one of its own: not opened anew, for which one
+        // would need the permission to search the folder beside the one to read it.
+        const int duplicate = retryInterrupted([&] { return fcntl(m_descriptor.get(), F_DUPFD_CLOEXEC, 0); });
+        if (duplicate < 0)
+            return -duplicate;
+        FileDescriptor own(duplicate);
         auto stream = std::make_unique<Stream>();
         stream->directory = fdopendir(own.get());
         if (stream->directory == nullptr)

@@ -30,6 +30,10 @@ struct ListedEntry {
 /// An object belongs to one thread at a time and holds the buffer of one part of a listing.
 class DirectoryReader {
 public:
+    /// After so many listings, the rest of a folder is left to whoever has time, however short they were: some file
+    /// systems, such as those of networks, give a few entries at a time.
+    static constexpr int listingsOfALongPart = 8;
+
     /// Which values of an entry are wanted.
     enum class Wanted { Type, AllocatedSize, All };
 

@@ -93,11 +93,9 @@ void ReadAhead::obtain(const Part& part)
         m_cancellation.throwIfCancelled();
         const bool isFree = part->state == State::Unread;
         if (const auto mine = isFree ? claim(*part) : takeFirst()) {
+            const ReadingScope reading;
             lock.unlock();
-            {
-                const ReadingScope reading;
-                read(*mine, *m_consumersDesk);
-            }
+            read(*mine, *m_consumersDesk);
             lock.lock();
             publish(*mine, isFree ? 0 : sizeOf(*mine));
         } else {
@@ -182,18 +180,18 @@ void ReadAhead::read(ListingPart& part, Desk& desk)
     if (descriptor < 0)
         return;
     bool isLong = false;
-    while (!isLong && desk.reader.list(descriptor, part.error)) {
-        isLong = desk.reader.isNearlyFull();
+    bool isStopped = false;
+    for (int count = 1; !isLong && !isStopped && desk.reader.list(descriptor, part.error); ++count) {
+        isLong = desk.reader.isNearlyFull() || count == DirectoryReader::listingsOfALongPart;
         if (isLong)
             handOverRest(part, desk.reader);
-        addEntries(part, descriptor, desk);
+        isStopped = !addEntries(part, descriptor, desk);
     }
     part.entries = desk.entries; // Copies that take no more than they need.
     part.names = desk.names;
     part.subfolders.assign(
         std::make_move_iterator(desk.subfolders.begin()), std::make_move_iterator(desk.subfolders.end()));
-    const bool isWanted = isLong || !part.subfolders.empty();
-    const auto keep = isWanted ? DescriptorCache::Keep::Yes : DescriptorCache::Keep::No;
+    const auto keep = isLong || !part.subfolders.empty() ? DescriptorCache::Keep::Yes : DescriptorCache::Keep::No;
     m_descriptors.unpin(*part.folder, isLong ? Listing::GoesOn : Listing::AtEnd, keep);
     desk.entries.clear();
     desk.names.clear();
@@ -214,16 +212,18 @@ void ReadAhead::handOverRest(ListingPart& part, const DirectoryReader& reader)
     inviteReader();
 }
 
-void ReadAhead::addEntries(ListingPart& part, int descriptor, Desk& desk)
+/// False when nobody wants them any more.
+bool ReadAhead::addEntries(ListingPart& part, int descriptor, Desk& desk)
 {
     ListedEntry listed;
     for (std::uint32_t count = 0; desk.reader.next(listed); ++count) {
         if (count % entriesBetweenLooks == 0
             && (part.isUnwanted.load(std::memory_order_relaxed) || m_cancellation.isCancelled()))
-            return;
+            return false;
         if (m_rules.isDelivered(listed))
             addEntry(part, descriptor, listed, desk);
     }
+    return true;
 }
 
 void ReadAhead::addEntry(ListingPart& part, int descriptor, ListedEntry& listed, Desk& desk)

@@ -54,7 +54,7 @@ private:
     Part takeFirst();
     void read(ListingPart& part, Desk& desk);
     void handOverRest(ListingPart& part, const DirectoryReader& reader);
-    void addEntries(ListingPart& part, int descriptor, Desk& desk);
+    bool addEntries(ListingPart& part, int descriptor, Desk& desk);
     void addEntry(ListingPart& part, int descriptor, ListedEntry& listed, Desk& desk);
     void publish(ListingPart& part, std::size_t bytesAhead);
     void insert(ListingPart& part, ListingPart* before, ListingPart* after);
