@@ -102,6 +102,7 @@ T.Button {
         }
         FocusRing {
             shown: button.visualFocus
+            gap: button.filled ? 2 : 0
             around: parent.radius
         }
     }

@@ -15,9 +15,12 @@ Rectangle {
     /// The corner radius of what is surrounded.
     property real around: Theme.radius
 
+    /// How far off the ring is drawn, so that it shows beside a fill of its own colour.
+    property real gap: 0
+
     anchors.fill: parent
-    anchors.margins: -3
-    radius: ring.around + 3
+    anchors.margins: -3 - ring.gap
+    radius: ring.around + 3 + ring.gap
     color: "transparent"
     border.width: 3
     border.color: Theme.focusRing
