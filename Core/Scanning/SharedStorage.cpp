@@ -57,10 +57,11 @@ void addFile(const SameFile& file, std::size_t sizeOfSet, SharedStorageOfItems& 
     }
 }
 
-void addSet(Items begin, Items end, SharedStorageOfItems& found)
+void addSet(Items begin, Items end, const Cancellation& cancellation, SharedStorageOfItems& found)
 {
     std::map<std::pair<std::uint64_t, std::uint64_t>, SameFile> files;
     for (auto item = begin; item != end; ++item) {
+        cancellation.throwIfCancelled();
         const auto identity = identityOfItem(item->url);
         const auto name = identity ? nameOf(item->url) : std::nullopt;
         if (!name)
@@ -80,9 +81,8 @@ SharedStorageOfItems sharedStorageInSets(const std::vector<ScanItem>& items, con
 {
     SharedStorageOfItems found;
     for (auto begin = items.begin(); begin != items.end();) {
-        cancellation.throwIfCancelled();
         const auto end = endOfSet(begin, items.end());
-        addSet(begin, end, found);
+        addSet(begin, end, cancellation, found);
         begin = end;
     }
     return found;

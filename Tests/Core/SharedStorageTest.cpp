@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <thread>
 
 namespace Korvane {
 
@@ -119,6 +120,21 @@ TEST_F(SharedStorageTest, CancelledLookThrows)
     Cancellation cancellation;
     cancellation.cancel();
     EXPECT_THROW(sharedStorageInSets(items, cancellation), CancellationError);
+}
+
+TEST_F(SharedStorageTest, CancelIsAnsweredInTheMiddleOfALargeSet)
+{
+    make("a", small);
+    std::vector<ScanItem> items;
+    for (int i = 0; i < 100'000; ++i)
+        items.emplace_back(home() / "a", std::nullopt, "one set", 100, i != 0);
+    const Cancellation cancellation;
+    std::thread canceller([cancellation] {
+        std::this_thread::sleep_for(50ms);
+        cancellation.cancel();
+    });
+    EXPECT_THROW(sharedStorageInSets(items, cancellation), CancellationError);
+    canceller.join();
 }
 
 } // namespace Korvane
