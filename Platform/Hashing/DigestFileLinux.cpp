@@ -123,6 +123,8 @@ void tellAheadOf(int descriptor, FileRange range, const Cancellation& cancellati
 FileDescriptor openForDigest(const std::filesystem::path& file)
 {
     const LongPath path(file.native());
+    if (!path.isReachable())
+        return {};
     // Having been compared with its copies is no use of a file; only its owner may leave the access time alone.
     FileDescriptor descriptor(openat(path.folder(), path.relative(), readFlags | O_NOATIME));
     if (!descriptor && errno == EPERM)

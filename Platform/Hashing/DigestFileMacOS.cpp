@@ -4,6 +4,7 @@
 #include "Platform/Hashing/DigestFile.h"
 
 #include "Platform/Hashing/OpenForDigest.h"
+#include "Platform/Walking/LongPath.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -17,6 +18,8 @@ namespace Korvane {
 
 namespace {
 
+constexpr int readFlags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+
 /// Whether the content of the file lies in a cloud and would be brought down by reading it (sys/stat.h).
 bool isPlaceholder(const struct stat& status) { return (status.st_flags & SF_DATALESS) != 0; }
 
@@ -24,14 +27,15 @@ bool isPlaceholder(const struct stat& status) { return (status.st_flags & SF_DAT
 
 FileDescriptor openForDigest(const std::filesystem::path& file)
 {
+    const LongPath path(file.native());
     struct stat status { };
-    if (lstat(file.c_str(), &status) != 0)
+    if (!path.isReachable() || fstatat(path.folder(), path.relative(), &status, AT_SYMLINK_NOFOLLOW) != 0)
         return {};
     if (isPlaceholder(status)) {
         errno = EDEADLK; // What reading it answers where nothing may be brought down.
         return {};
     }
-    FileDescriptor descriptor(open(file.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    FileDescriptor descriptor(openat(path.folder(), path.relative(), readFlags));
     // What is read once need not stay in the cache (fcntl(2)); advice only, the read is the same without it.
     if (descriptor)
         (void)fcntl(descriptor.get(), F_NOCACHE, 1);

@@ -5,6 +5,7 @@
 
 #include "Platform/Walking/DirectoryReader.h"
 
+#include <cerrno>
 #include <climits>
 
 #include <fcntl.h>
@@ -22,12 +23,14 @@ LongPath::LongPath(const std::string& path)
             return; // A single name of that length: the system refuses it in its own words.
         const auto leading = m_relative.substr(0, separator + 1);
         const int next = DirectoryReader::openLeadingFolder(m_folder, leading.c_str());
+        const int error = errno;
         if (m_isOpened)
             close(m_folder);
         m_folder = next;
         m_isOpened = next >= 0;
         const auto rest = m_relative.find_first_not_of('/', separator);
         m_relative = rest == std::string::npos ? "." : m_relative.substr(rest);
+        errno = error;
         if (!m_isOpened)
             return;
     }

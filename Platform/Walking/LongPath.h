@@ -18,11 +18,16 @@ public:
     LongPath(const LongPath&) = delete;
     LongPath& operator=(const LongPath&) = delete;
 
+    /// Whether the leading folders could be opened; right after the construction errno says why not.
+    bool isReachable() const noexcept { return m_folder != noDescriptor; }
+
     /// What relative() is relative to: AT_FDCWD, or a descriptor that lives as long as this object.
     int folder() const noexcept { return m_folder; }
     const char* relative() const noexcept { return m_relative.c_str(); }
 
 private:
+    static constexpr int noDescriptor = -1;
+
     std::string m_relative;
     int m_folder;
     bool m_isOpened = false;
