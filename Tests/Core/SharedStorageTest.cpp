@@ -5,11 +5,11 @@
 
 #include "Core/Scanning/LargeFilesScanner.h"
 #include "Tests/Core/DuplicatesFixture.h"
+#include "Tests/Support/CancelMidway.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
-#include <thread>
 
 namespace Korvane {
 
@@ -128,13 +128,8 @@ TEST_F(SharedStorageTest, CancelIsAnsweredInTheMiddleOfALargeSet)
     std::vector<ScanItem> items;
     for (int i = 0; i < 100'000; ++i)
         items.emplace_back(home() / "a", std::nullopt, "one set", 100, i != 0);
-    const Cancellation cancellation;
-    std::thread canceller([cancellation] {
-        std::this_thread::sleep_for(50ms);
-        cancellation.cancel();
-    });
-    EXPECT_THROW(sharedStorageInSets(items, cancellation), CancellationError);
-    canceller.join();
+    const auto look = [&](const Cancellation& cancellation) { sharedStorageInSets(items, cancellation); };
+    EXPECT_TRUE(stopsWhenCancelled(look, 50ms));
 }
 
 } // namespace Korvane
