@@ -3,6 +3,8 @@
 
 #include "Core/Scanning/DuplicateCandidate.h"
 
+#include "Core/Scanning/CancellableSort.h"
+
 #include <algorithm>
 #include <string_view>
 #include <unordered_set>
@@ -15,13 +17,19 @@ namespace {
 using Candidates = std::vector<DuplicateCandidate>;
 
 /// Leaves each path in a range once, where it comes first; gives the end of what is left.
-Candidates::iterator removeRepeatedPaths(Candidates::iterator begin, Candidates::iterator end)
+constexpr std::ptrdiff_t candidatesBetweenLooks = 512;
+
+Candidates::iterator removeRepeatedPaths(
+    Candidates::iterator begin, Candidates::iterator end, const Cancellation& cancellation)
 {
     // Marked first and moved afterwards: a path that is moved takes its text with it.
     std::unordered_set<std::string_view> known;
     std::vector<bool> isRepeated;
-    for (auto candidate = begin; candidate != end; ++candidate)
+    for (auto candidate = begin; candidate != end; ++candidate) {
+        if ((candidate - begin) % candidatesBetweenLooks == 0)
+            cancellation.throwIfCancelled();
         isRepeated.push_back(!known.insert(candidate->url.native()).second);
+    }
     known.clear();
     auto kept = begin;
     for (auto candidate = begin; candidate != end; ++candidate) {
@@ -44,24 +52,24 @@ DuplicateCandidate::DuplicateCandidate(
 {
 }
 
-void sortBySize(Candidates& candidates)
+void sortBySize(Candidates& candidates, const Cancellation& cancellation)
 {
-    std::stable_sort(candidates.begin(), candidates.end(),
+    cancellableStableSort(candidates, cancellation,
         [](const DuplicateCandidate& left, const DuplicateCandidate& right) { return left.size > right.size; });
     auto kept = candidates.begin();
     for (auto begin = candidates.begin(); begin != candidates.end();) {
         const auto end = std::find_if(begin, candidates.end(),
             [size = begin->size](const DuplicateCandidate& file) { return file.size != size; });
-        const auto endOfOnce = end - begin < 2 ? end : removeRepeatedPaths(begin, end);
+        const auto endOfOnce = end - begin < 2 ? end : removeRepeatedPaths(begin, end, cancellation);
         kept = kept == begin ? endOfOnce : std::move(begin, endOfOnce, kept);
         begin = end;
     }
     candidates.erase(kept, candidates.end());
 }
 
-void sortOldestFirst(std::vector<DuplicateCandidate>& candidates)
+void sortOldestFirst(std::vector<DuplicateCandidate>& candidates, const Cancellation& cancellation)
 {
-    std::stable_sort(candidates.begin(), candidates.end(),
+    cancellableStableSort(candidates, cancellation,
         [](const DuplicateCandidate& left, const DuplicateCandidate& right) { return left.modified < right.modified; });
 }
 

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Platform/Cancellation.h"
+
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
@@ -22,12 +24,13 @@ struct DuplicateCandidate {
     DuplicateCandidate(std::filesystem::path url, std::int64_t size, std::optional<Timestamp> modificationDate);
 };
 
-/// Brings the files of one size together, the largest first and otherwise in the given order. Of the entries of one size
-/// with the same path only the first stays: a folder that changes while it is read may list a file twice, and a file is
-/// no copy of itself.
-void sortBySize(std::vector<DuplicateCandidate>& candidates);
+/// Brings the files of one size together, the largest first and otherwise in the given order. Of the entries of one
+/// size with the same path only the first stays: a folder that changes while it is read may list a file twice, and a
+/// file is no copy of itself. Throws CancellationError when cancelled.
+void sortBySize(std::vector<DuplicateCandidate>& candidates, const Cancellation& cancellation);
 
-/// Puts the oldest file first; equally old ones stay in the order in which they are given.
-void sortOldestFirst(std::vector<DuplicateCandidate>& candidates);
+/// Puts the oldest file first; equally old ones stay in the order in which they are given. Throws CancellationError
+/// when cancelled.
+void sortOldestFirst(std::vector<DuplicateCandidate>& candidates, const Cancellation& cancellation);
 
 } // namespace Korvane

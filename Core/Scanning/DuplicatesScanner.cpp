@@ -43,7 +43,7 @@ std::vector<Candidate> candidates(const DuplicatesScanner& scanner, const std::f
         if (values.fileSize && *values.fileSize >= scanner.minimumFileSize)
             found->emplace_back(file->path(), *values.fileSize, values.contentModificationDate);
     }
-    sortBySize(*found);
+    sortBySize(*found, cancellation);
     return std::move(*found);
 }
 
@@ -86,20 +86,22 @@ std::vector<std::vector<Candidate>> groupByDigest(SizeGroup group, FileDigest& d
 /// Turns sets of equal files into items, and counts those that can be removed.
 class Emission {
 public:
-    explicit Emission(const ProgressHandler& progress)
+    Emission(const ProgressHandler& progress, const Cancellation& cancellation)
         : m_progress(progress)
+        , m_cancellation(cancellation)
     {
     }
 
     void emit(std::vector<Candidate>& set)
     {
-        sortOldestFirst(set);
+        sortOldestFirst(set, m_cancellation);
         const auto& kept = set.front();
         const auto keptName = displayName(kept.url);
         const auto label
             = keptName + " \u2014 " + std::to_string(set.size()) + " copies, " + formattedBytes(kept.size) + " each";
         m_items->emplace_back(kept.url, keptName + " (original)", label, kept.size, false);
         for (auto copy = set.begin() + 1; copy != set.end(); ++copy) {
+            m_cancellation.throwIfCancelled();
             m_items->emplace_back(copy->url, std::nullopt, label, copy->size, true);
             m_found.currentPath = displayText(copy->url);
             m_found.itemsFound = checkedAdd(m_found.itemsFound, 1);
@@ -112,6 +114,7 @@ public:
 
 private:
     const ProgressHandler& m_progress;
+    const Cancellation& m_cancellation;
     ScanProgress m_found;
     FreedElsewhere<std::vector<ScanItem>> m_items;
 };
@@ -135,7 +138,7 @@ std::vector<ScanItem> DuplicatesScanner::scan(
     // Files are read ahead across sizes; a file that has its digest may leave its place in the list.
     const auto pathAt = [&](std::size_t index) -> const std::filesystem::path& { return files[index].url; };
     FileDigest digest(files.size(), pathAt, hashPrefixBytes, cancellation);
-    Emission emission(progress);
+    Emission emission(progress, cancellation);
     for (auto begin = files.begin(); begin != files.end();) {
         const auto end = endOfSize(begin, files.end());
         cancellation.throwIfCancelled();

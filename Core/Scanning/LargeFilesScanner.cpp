@@ -3,6 +3,7 @@
 
 #include "Core/Scanning/LargeFilesScanner.h"
 
+#include "Core/Scanning/CancellableSort.h"
 #include "Core/Scanning/HomeWalk.h"
 #include "Platform/Checked.h"
 #include "Platform/DisplayText.h"
@@ -19,9 +20,9 @@ namespace {
 
 constexpr const char* category = "Large Files";
 
-void keepLargest(std::vector<ScanItem>& items, std::int64_t maxResults)
+void keepLargest(std::vector<ScanItem>& items, std::int64_t maxResults, const Cancellation& cancellation)
 {
-    std::stable_sort(items.begin(), items.end(),
+    cancellableStableSort(items, cancellation,
         [](const ScanItem& left, const ScanItem& right) { return left.sizeInBytes > right.sizeInBytes; });
     const auto kept = std::clamp<std::int64_t>(maxResults, 0, static_cast<std::int64_t>(items.size()));
     items.erase(items.begin() + static_cast<std::ptrdiff_t>(kept), items.end());
@@ -63,7 +64,7 @@ std::vector<ScanItem> LargeFilesScanner::scan(
         found.bytesFound = checkedAdd(found.bytesFound, *size);
         progress(found);
     }
-    keepLargest(*items, maxResults);
+    keepLargest(*items, maxResults, cancellation);
     return std::move(*items);
 }
 

@@ -4,6 +4,7 @@
 #include "Core/Scanning/SystemJunkScanner.h"
 
 #include "Core/Scanning/CacheSelection.h"
+#include "Core/Scanning/CancellableSort.h"
 #include "Core/Scanning/FileSizeCalculator.h"
 #include "Core/Scanning/JunkLocation.h"
 #include "Core/Scanning/LastPathComponent.h"
@@ -13,7 +14,6 @@
 #include "Platform/FileError.h"
 #include "Platform/FreedElsewhere.h"
 
-#include <algorithm>
 #include <chrono>
 #include <string>
 #include <unordered_set>
@@ -58,7 +58,7 @@ public:
             if (m_host.files->fileExists(location.url))
                 scanLocation(location);
         }
-        std::stable_sort(m_items->begin(), m_items->end(),
+        cancellableStableSort(*m_items, m_cancellation,
             [](const ScanItem& left, const ScanItem& right) { return left.sizeInBytes > right.sizeInBytes; });
         return std::move(*m_items);
     }

@@ -66,10 +66,10 @@ bool isWhollyInMemory(int descriptor, FileRange range)
 std::vector<unsigned char> residency(int descriptor, FileRange range)
 {
     const auto length = static_cast<std::size_t>(range.count);
+    std::vector<unsigned char> pages(static_cast<std::size_t>(pagesOf(range)));
     void* const mapping = mmap(nullptr, length, PROT_READ, MAP_SHARED, descriptor, range.offset);
     if (mapping == MAP_FAILED)
         return {};
-    std::vector<unsigned char> pages(static_cast<std::size_t>(pagesOf(range)));
     if (mincore(mapping, length, pages.data()) != 0)
         pages.clear();
     munmap(mapping, length);

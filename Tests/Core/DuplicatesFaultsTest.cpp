@@ -249,6 +249,22 @@ TEST_F(DuplicatesFaultsTest, CancelledWhileComparingThrowsBeforeTheNextSize)
     EXPECT_EQ(found, 2);
 }
 
+TEST_F(DuplicatesFaultsTest, CancelledInTheMiddleOfASetReportsNothingMore)
+{
+    for (int i = 0; i < 50; ++i)
+        make(std::to_string(i), std::string(200, 'x'));
+    const Cancellation cancellation;
+    std::int64_t found = 0;
+    const auto cancelAtThird = [&](const ScanProgress& progress) {
+        found = progress.itemsFound;
+        if (found == 3)
+            cancellation.cancel();
+    };
+    EXPECT_THROW(
+        (void)DuplicatesScanner(home(), 100, 1000).scan(host(), cancelAtThird, cancellation), CancellationError);
+    EXPECT_EQ(found, 3);
+}
+
 TEST_F(DuplicatesFaultsTest, ScanChangesNothing)
 {
     const Sentinel first(home() / "a/keep");

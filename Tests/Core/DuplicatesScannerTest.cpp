@@ -98,7 +98,7 @@ TEST_F(DuplicatesScannerTest, FileWithoutAModificationDateSortsAsTheOldest)
         { "/undated", 1, std::nullopt },
         { "/undated too", 1, std::nullopt },
     };
-    sortOldestFirst(candidates);
+    sortOldestFirst(candidates, {});
     EXPECT_EQ(candidates[0].url, "/undated");
     EXPECT_EQ(candidates[1].url, "/undated too");
     EXPECT_EQ(candidates[2].url, "/dated");
