@@ -67,7 +67,7 @@ job_remove_flat() {
 trash_contestants() { # PLACE
     has gio && contestant "gio trash" - env HOME="$1/home" XDG_DATA_HOME="$1/home/.local/share" \
         xargs -0 -s 1900000 -a "$1/list" gio trash
-    contestant korvane - "$tools/bench-trash" "$1/home" "$1/home/items"
+    contestant korvane - "$tools/bench-trash" "$1/home" "$1/list"
     contestant "bare loop, synced" - "$tools/bench-bare-trash" "$1/home" "$1/home/items" sync
     contestant "bare loop" - "$tools/bench-bare-trash" "$1/home" "$1/home/items"
 }
