@@ -4,6 +4,7 @@
 #include "App/KorvaneApp.h"
 
 #include "App/ApplicationMenu.h"
+#include "UI/Uninstaller/ApplicationIconProvider.h"
 
 #include <QApplication>
 #include <QMenuBar>
@@ -25,6 +26,9 @@ KorvaneApp::KorvaneApp(const Host& host)
     connect(qApp, &QApplication::lastWindowClosed, this, &KorvaneApp::leaveUnlessInTray);
     connect(qApp, &QApplication::applicationStateChanged, this, &KorvaneApp::comeBackWhenActivated);
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    // The engine owns it.
+    m_engine.addImageProvider(
+        ApplicationIconProvider::name(), new ApplicationIconProvider(m_content.applicationIcons()));
     m_engine.setInitialProperties({ { QStringLiteral("viewModel"), QVariant::fromValue(&m_content) } });
 }
 

@@ -16,6 +16,7 @@
 ///     Scan/              the parts of the scan screen
 ///     Settings/          the parts of the settings window
 ///     Symbols/           one family of drawings, and what tints them
+///     Uninstaller/       the parts of the uninstaller's screen; the icons of applications
 ///   CLI/               the same engine for a terminal
 ///   App/               this file; KorvaneApp with its windows, AppState, TrayIcon, menus
 

@@ -35,12 +35,15 @@ ContentViewModel::ContentViewModel(const Host& host, Navigation& navigation, QOb
     , m_dashboard(m_modules, navigation, startupDisk)
     , m_access(host)
     , m_settings(host.defaults, m_access)
+    , m_applicationIcons(std::make_shared<ApplicationIcons>())
 {
     connect(&navigation, &Navigation::selectedModuleChanged, this, [this] {
         renewScan();
+        renewUninstaller();
         Q_EMIT selectedModuleChanged();
     });
     renewScan();
+    renewUninstaller();
 }
 
 void ContentViewModel::renewScan()
@@ -53,6 +56,20 @@ void ContentViewModel::renewScan()
         = std::exchange(m_scan, hasScan ? new ScanViewModel(selected->module(), m_host, m_navigation, this) : nullptr);
     Q_EMIT scanChanged();
     // The old screen, which goes once control returns to the event loop, still names it until then.
+    if (gone)
+        gone->deleteLater();
+}
+
+void ContentViewModel::renewUninstaller()
+{
+    const ModuleViewModel* selected = selectedModule();
+    const bool isSelected = selected && selected->module() == CleanerModule::uninstaller;
+    if (isSelected == (m_uninstaller != nullptr))
+        return;
+    UninstallerViewModel* gone = std::exchange(
+        m_uninstaller, isSelected ? new UninstallerViewModel(m_host, m_applicationIcons, {}, this) : nullptr);
+    Q_EMIT uninstallerChanged();
+    // As above.
     if (gone)
         gone->deleteLater();
 }

@@ -10,11 +10,14 @@
 #include "UI/Navigation.h"
 #include "UI/ScanViewModel.h"
 #include "UI/SettingsViewModel.h"
+#include "UI/UninstallerViewModel.h"
 
 #include <QList>
 #include <QObject>
 #include <QQmlEngine>
 #include <QQmlListProperty>
+
+#include <memory>
 
 namespace Korvane {
 
@@ -34,6 +37,8 @@ class ContentViewModel : public QObject {
             selectedModuleChanged FINAL)
     /// The scan screen of the selected module; null when it has none. A fresh one for each module that is selected.
     Q_PROPERTY(Korvane::ScanViewModel* scan READ scan NOTIFY scanChanged FINAL)
+    /// The screen of the uninstaller while it is selected, else null. A fresh one each time.
+    Q_PROPERTY(Korvane::UninstallerViewModel* uninstaller READ uninstaller NOTIFY uninstallerChanged FINAL)
     Q_PROPERTY(Korvane::DashboardViewModel* dashboard READ dashboard CONSTANT FINAL)
     Q_PROPERTY(Korvane::FullDiskAccessViewModel* access READ access CONSTANT FINAL)
     Q_PROPERTY(Korvane::SettingsViewModel* settings READ settings CONSTANT FINAL)
@@ -48,9 +53,13 @@ public:
     ModuleViewModel* selectedModule() const;
     void setSelectedModule(ModuleViewModel* module);
     ScanViewModel* scan() const { return m_scan; }
+    UninstallerViewModel* uninstaller() const { return m_uninstaller; }
     DashboardViewModel* dashboard() { return &m_dashboard; }
     FullDiskAccessViewModel* access() { return &m_access; }
     SettingsViewModel* settings() { return &m_settings; }
+
+    /// The icons of the applications that the uninstaller lists.
+    std::shared_ptr<ApplicationIcons> applicationIcons() const { return m_applicationIcons; }
 
     /// The view model of a module, which every list shares.
     ModuleViewModel* moduleViewModel(CleanerModule module) const;
@@ -58,11 +67,13 @@ public:
 Q_SIGNALS:
     void selectedModuleChanged();
     void scanChanged();
+    void uninstallerChanged();
     /// The main window is to open the settings window.
     void settingsRequested();
 
 private:
     void renewScan();
+    void renewUninstaller();
     QList<ModuleViewModel*> modules(std::initializer_list<CleanerModule> modules) const;
 
     const Host m_host;
@@ -75,6 +86,8 @@ private:
     FullDiskAccessViewModel m_access;
     SettingsViewModel m_settings;
     ScanViewModel* m_scan = nullptr; ///< A child of this.
+    std::shared_ptr<ApplicationIcons> m_applicationIcons;
+    UninstallerViewModel* m_uninstaller = nullptr; ///< A child of this.
 };
 
 } // namespace Korvane

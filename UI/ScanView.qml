@@ -4,7 +4,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Korvane.UI
 
 /// The screen of a module that scans, lets the user choose, and cleans.
@@ -16,8 +15,27 @@ FocusScope {
     Accessible.role: Accessible.Pane
     Accessible.name: screen.viewModel.module.title
 
+    /// Brings on the view of the phase.
+    function showPhase(): void {
+        stage.show(screen.component(), screen.activeFocus || confirmation.visible);
+    }
+    function component(): Component {
+        switch (screen.viewModel.phase) {
+        case ScanViewModel.Idle:
+            return idle;
+        case ScanViewModel.Scanning:
+            return scanning;
+        case ScanViewModel.Cleaning:
+            return cleaning;
+        case ScanViewModel.Results:
+            return screen.viewModel.hasItems ? results : allClean;
+        case ScanViewModel.Cleaned:
+            return cleaned;
+        }
+    }
+
     Component.onCompleted: {
-        stage.show();
+        screen.showPhase();
         screen.viewModel.appear();
     }
 
@@ -25,59 +43,29 @@ FocusScope {
         target: screen.viewModel
 
         function onPhaseChanged() {
-            stage.show();
+            screen.showPhase();
         }
         function onConfirmationRequested() {
             confirmation.open();
         }
     }
 
-    FocusScope {
+    Stage {
         id: stage
-
-        property Item current: null
 
         anchors.fill: parent
         focus: true
-
-        function component(): Component {
-            switch (screen.viewModel.phase) {
-            case ScanViewModel.Idle:
-                return idle;
-            case ScanViewModel.Scanning:
-                return scanning;
-            case ScanViewModel.Cleaning:
-                return cleaning;
-            case ScanViewModel.Results:
-                return screen.viewModel.hasItems ? results : allClean;
-            case ScanViewModel.Cleaned:
-                return cleaned;
-            }
-        }
-
-        /// Brings on the view of the phase, and the keyboard with it if this screen had it.
-        function show(): void {
-            const focused = stage.T.ApplicationWindow.activeFocusControl as T.Control;
-            const byKeyboard = focused !== null && focused.visualFocus;
-            const hadFocus = screen.activeFocus || confirmation.visible;
-            const previous = stage.current;
-            stage.current = stage.component().createObject(stage) as Item;
-            if (hadFocus)
-                stage.current.forceActiveFocus(byKeyboard ? Qt.TabFocusReason : Qt.OtherFocusReason);
-            if (previous !== null) {
-                previous.visible = false;
-                previous.destroy();
-            }
-        }
     }
 
     Component {
         id: idle
 
-        ScanIdle {
+        ModuleStart {
             anchors.fill: parent
             focus: true
-            viewModel: screen.viewModel
+            module: screen.viewModel.module
+            action: qsTr("Start Scan")
+            onStarted: screen.viewModel.startScan()
         }
     }
     Component {

@@ -4,9 +4,9 @@
 #include "UI/ScanViewModel.h"
 
 #include "Core/Scanning/FormattedBytes.h"
-#include "Core/Scanning/ProgressThrottle.h"
 #include "UI/Background.h"
 #include "UI/PreferenceKeys.h"
+#include "UI/ThrottledProgress.h"
 
 #include <chrono>
 #include <utility>
@@ -84,19 +84,12 @@ void ScanViewModel::start(std::shared_ptr<const JunkScanner> scanner)
 
 ProgressHandler ScanViewModel::makeProgressHandler()
 {
-    return [weak = QPointer<ScanViewModel>(this), application = QCoreApplication::instance(), generation = m_generation,
-               throttle = std::make_shared<ProgressThrottle>(ProgressThrottle::standardInterval)](
-               const ScanProgress& progress) {
-        if (!throttle->shouldEmit())
+    return throttledProgress(this, [generation = m_generation](ScanViewModel& self, const ScanProgress& progress) {
+        if (self.m_generation != generation)
             return;
-        const auto apply = [weak, generation, progress] {
-            if (!weak || weak->m_generation != generation)
-                return;
-            weak->m_progress = progress;
-            Q_EMIT weak->progressChanged();
-        };
-        QMetaObject::invokeMethod(application, apply, Qt::QueuedConnection);
-    };
+        self.m_progress = progress;
+        Q_EMIT self.progressChanged();
+    });
 }
 
 void ScanViewModel::finishScan(std::optional<ScanOutcome> outcome)

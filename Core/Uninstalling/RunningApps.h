@@ -19,6 +19,8 @@ public:
     /// Whether one that runs has exactly the identifier of this one; false when this one has none.
     bool contains(const InstalledApp& app) const;
 
+    bool operator==(const RunningApps&) const = default;
+
 private:
     std::unordered_set<std::string> m_identifiers;
 };

@@ -43,7 +43,7 @@ Item {
         }
         ModuleOverview {
             anchors.fill: parent
-            visible: module !== null && !module.generic
+            visible: module !== null && !module.generic && detail.viewModel.uninstaller === null
             module: detail.viewModel.selectedModule
         }
         // A repeater of at most one: a screen keeps its view model for life, also while it is being replaced.
@@ -59,6 +59,20 @@ Item {
                 focus: true
                 viewModel: modelData
                 Component.onCompleted: area.lead(scan)
+            }
+        }
+        Repeater {
+            model: detail.viewModel.uninstaller === null ? [] : [detail.viewModel.uninstaller]
+
+            UninstallerView {
+                id: uninstaller
+
+                required property UninstallerViewModel modelData
+
+                anchors.fill: parent
+                focus: true
+                viewModel: modelData
+                Component.onCompleted: area.lead(uninstaller)
             }
         }
     }

@@ -18,6 +18,16 @@ namespace Korvane {
 
 /// A scan that waits until the test lets it go on, and tells when it has begun.
 struct HeldScan {
+    HeldScan() = default;
+    HeldScan(const HeldScan&) = delete;
+    HeldScan& operator=(const HeldScan&) = delete;
+    /// Lets go of every scan and waits for it: a test that ends early holds nobody up.
+    ~HeldScan()
+    {
+        mayEnd.release(1000);
+        QThreadPool::globalInstance()->waitForDone();
+    }
+
     QSemaphore begun;
     QSemaphore mayEnd;
 };

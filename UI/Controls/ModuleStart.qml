@@ -10,7 +10,11 @@ import Korvane.UI
 FocusScope {
     id: view
 
-    required property ScanViewModel viewModel
+    required property ModuleViewModel module
+    /// What the button says.
+    required property string action
+
+    signal started
 
     Column {
         anchors.centerIn: parent
@@ -20,8 +24,8 @@ FocusScope {
 
         ModuleHeroIcon {
             anchors.horizontalCenter: parent.horizontalCenter
-            symbol: view.viewModel.module.symbol
-            accent: Theme.accent(view.viewModel.module.accent)
+            symbol: view.module.symbol
+            accent: Theme.accent(view.module.accent)
         }
         Item {
             width: 1
@@ -31,7 +35,7 @@ FocusScope {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             style: Label.LargeTitle
-            text: view.viewModel.module.title
+            text: view.module.title
             Accessible.role: Accessible.Heading
         }
         Label {
@@ -40,7 +44,7 @@ FocusScope {
             style: Label.Title3
             color: Theme.secondaryLabel
             wrapMode: Text.Wrap
-            text: view.viewModel.module.subtitle
+            text: view.module.subtitle
         }
         Item {
             width: 1
@@ -52,8 +56,8 @@ FocusScope {
             large: true
             kind: Button.Prominent
             symbol: "magnifyingglass"
-            text: qsTr("Start Scan")
-            onClicked: view.viewModel.startScan()
+            text: view.action
+            onClicked: view.started()
         }
     }
 }

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.UI
+
+/// Where a screen shows one view after the other, each made afresh.
+FocusScope {
+    id: stage
+
+    property Item current: null
+
+    /// Brings on a view in place of the one before, and the keyboard with it if the screen had that.
+    function show(view: Component, hadFocus: bool): void {
+        const focused = stage.T.ApplicationWindow.activeFocusControl as T.Control;
+        const byKeyboard = focused !== null && focused.visualFocus;
+        const previous = stage.current;
+        stage.current = view.createObject(stage) as Item;
+        if (hadFocus)
+            stage.current.forceActiveFocus(byKeyboard ? Qt.TabFocusReason : Qt.OtherFocusReason);
+        if (previous !== null) {
+            previous.visible = false;
+            previous.destroy();
+        }
+    }
+}

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Korvane.UI
+
+/// The selected application's icon, name and total size, and whether it runs.
+Item {
+    id: header
+
+    required property UninstallerViewModel viewModel
+
+    implicitHeight: Math.max(icon.height, texts.height)
+
+    AppIcon {
+        id: icon
+
+        size: 72
+        source: header.viewModel.selected.iconSource
+    }
+    Column {
+        id: texts
+
+        anchors.left: icon.right
+        anchors.leftMargin: Theme.spacingLarge
+        anchors.right: parent.right
+        anchors.verticalCenter: icon.verticalCenter
+        spacing: Theme.spacingTiny
+
+        Label {
+            width: parent.width
+            style: Label.Title
+            elide: Text.ElideMiddle
+            text: header.viewModel.selected.name
+            Accessible.role: Accessible.Heading
+        }
+        Label {
+            width: parent.width
+            style: Label.Title3
+            color: Theme.secondaryLabel
+            text: header.viewModel.selected.totalText
+        }
+        Row {
+            visible: header.viewModel.selectedRunning
+            spacing: 6
+
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                name: "exclamationmark.triangle.fill"
+                size: 16
+                color: Theme.orange
+            }
+            Label {
+                anchors.verticalCenter: parent.verticalCenter
+                style: Label.Callout
+                color: Theme.warningLabel
+                text: qsTr("App is currently running")
+                Accessible.role: Accessible.AlertMessage
+            }
+        }
+    }
+}

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "UI/Uninstaller/InstalledAppTexts.h"
+
+#include "Core/Scanning/FormattedBytes.h"
+#include "Platform/DisplayText.h"
+#include "UI/Uninstaller/ApplicationIconProvider.h"
+
+namespace Korvane {
+
+InstalledAppTexts InstalledAppTexts::of(const InstalledApp& app)
+{
+    const int leftovers = static_cast<int>(app.leftovers.size());
+    InstalledAppTexts texts;
+    texts.name = QString::fromStdString(displayText(std::string_view(app.name)));
+    texts.path = QString::fromStdString(displayText(app.url));
+    texts.sizeText = QString::fromStdString(formattedBytes(app.sizeInBytes));
+    texts.totalText = QString::fromStdString(formattedBytes(app.totalSize()));
+    texts.iconSource = ApplicationIconProvider::source(app.id);
+    texts.leftoversTitle = tr("Leftovers (%1)").arg(leftovers);
+    texts.question = tr("Uninstall %1?").arg(texts.name);
+    if (app.kind == InstalledApp::Kind::Flatpak) {
+        texts.note = tr("Removes the app for good and moves all leftovers to Trash");
+        texts.consequence = tr("Flatpak will remove the app for good: it can be installed again, but not be put back. "
+                               "%n leftover items will be moved to Trash.",
+            nullptr, leftovers);
+        texts.consent = tr("Uninstall");
+    } else {
+        texts.note = tr("Removes the app and all leftovers to Trash");
+        texts.consequence = tr("The app and %n leftover items will be moved to Trash.", nullptr, leftovers);
+        texts.consent = tr("Move to Trash");
+    }
+    return texts;
+}
+
+} // namespace Korvane
