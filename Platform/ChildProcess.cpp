@@ -65,9 +65,14 @@ void drain(ChildConversation& conversation)
     for (int count = 0; count < mostPortions && conversation.exchange({}); ++count) { }
 }
 
-/// Talks until the program has ended and its outputs are closed; false when it was cancelled meanwhile.
-bool converse(ChildConversation& conversation, const ProcessGroup& group, const Cancellation& cancellation)
+/// How the conversation with a program came to its end.
+enum class Ending { OfItsOwn, Cancelled, OutOfTime };
+
+/// Talks until the program has ended, of its own accord or because it was ended, and its outputs are closed.
+Ending converse(ChildConversation& conversation, const ProcessGroup& group, const Cancellation& cancellation,
+    std::optional<Clock::time_point> limit)
 {
+    Ending ending = Ending::OfItsOwn;
     std::optional<Clock::time_point> end, lastDeadline;
     std::chrono::milliseconds rest{ 1 };
     while (true) {
@@ -82,9 +87,11 @@ bool converse(ChildConversation& conversation, const ProcessGroup& group, const 
             end = now + leftoverGrace;
         if (end && (conversation.isOver() || now >= *end)) {
             drain(conversation);
-            return !lastDeadline;
+            return ending;
         }
-        if (!lastDeadline && !end && cancellation.isCancelled()) {
+        const bool isOutOfTime = limit && now >= *limit;
+        if (!lastDeadline && !end && (isOutOfTime || cancellation.isCancelled())) {
+            ending = cancellation.isCancelled() ? Ending::Cancelled : Ending::OutOfTime;
             group.terminate();
             lastDeadline = now + ProcessGroup::grace;
         }
@@ -99,13 +106,16 @@ ChildResult ChildProcess::run(const Cancellation& cancellation) const
 {
     cancellation.throwIfCancelled();
     const BrokenPipeScope scope;
+    const auto limit = timeLimit ? std::make_optional(Clock::now() + *timeLimit) : std::nullopt;
     auto child = startChild(startOf(*this));
     ProcessGroup group(child.id);
     ChildConversation conversation(child, input, outputLimit);
-    const bool isComplete = converse(conversation, group, cancellation);
+    const auto ending = converse(conversation, group, cancellation, limit);
     const auto status = group.status();
-    if (!isComplete)
+    if (ending == Ending::Cancelled)
         throw CancellationError();
+    if (ending == Ending::OutOfTime)
+        throw FileError(program, std::make_error_code(std::errc::timed_out));
     if (!status)
         throw FileError(program, std::make_error_code(std::errc::no_child_process));
     ChildResult result;

@@ -3,7 +3,6 @@
 
 #include "Platform/Applications/Flatpaks.h"
 
-#include "Platform/ChildProcess.h"
 #include "Platform/FileError.h"
 
 #include <algorithm>
@@ -60,13 +59,30 @@ bool isFlatpakIdentifier(std::string_view text)
 }
 
 Flatpaks::Flatpaks(const Environment& environment, const std::vector<std::filesystem::path>& programFolders)
+    : Flatpaks(environment, programFolders, TimeLimits())
+{
+}
+
+Flatpaks::Flatpaks(
+    const Environment& environment, const std::vector<std::filesystem::path>& programFolders, TimeLimits timeLimits)
     : m_installation(environment.dataHome() / "flatpak")
     , m_variables({ { "HOME", environment.home.native() }, { "XDG_DATA_HOME", environment.dataHome().native() },
           { "FLATPAK_USER_DIR", m_installation.native() } })
+    , m_timeLimits(timeLimits)
 {
     for (const auto& folder : programFolders)
         if (m_tool.empty() && isProgram(folder / "flatpak"))
             m_tool = folder / "flatpak";
+}
+
+ChildProcess Flatpaks::call(std::vector<std::string> arguments, std::chrono::milliseconds timeLimit) const
+{
+    ChildProcess call;
+    call.program = m_tool;
+    call.arguments = std::move(arguments);
+    call.variables = m_variables;
+    call.timeLimit = timeLimit;
+    return call;
 }
 
 std::filesystem::path Flatpaks::folderOf(std::string_view identifier) const
@@ -80,12 +96,9 @@ std::vector<HostApplication> Flatpaks::installed(const Cancellation& cancellatio
     std::error_code error;
     if (m_tool.empty() || !std::filesystem::is_directory(m_installation / "app", error))
         return {};
-    ChildProcess tool;
-    tool.program = m_tool;
-    tool.arguments = { "list", "--user", "--app", "--columns=application,name" };
-    tool.variables = m_variables;
     try {
-        const auto result = tool.run(cancellation);
+        const auto result
+            = call({ "list", "--user", "--app", "--columns=application,name" }, m_timeLimits.list).run(cancellation);
         return result.hasSucceeded() ? listed(result.output.text) : std::vector<HostApplication>();
     } catch (const FileError&) {
         return {};
@@ -122,11 +135,13 @@ void Flatpaks::uninstall(const HostApplication& application, const Cancellation&
         throw FileError(application.path, std::make_error_code(std::errc::invalid_argument));
     if (m_tool.empty())
         throw FileError(application.path, std::make_error_code(std::errc::no_such_file_or_directory));
-    ChildProcess tool;
-    tool.program = m_tool;
-    tool.arguments = { "uninstall", "--user", "--noninteractive", "-y", identifier };
-    tool.variables = m_variables;
-    const auto result = tool.run(cancellation);
+    const auto removal = call({ "uninstall", "--user", "--noninteractive", "-y", identifier }, m_timeLimits.uninstall);
+    ChildResult result;
+    try {
+        result = removal.run(cancellation);
+    } catch (const FileError& error) {
+        throw FileError(application.path, error.code());
+    }
     if (result.hasSucceeded())
         return;
     const auto failure = std::make_error_code(std::errc::io_error);

@@ -148,6 +148,25 @@ TEST_F(FlatpaksTest, EndsAToolThatHangs)
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(2));
 }
 
+TEST_F(FlatpaksTest, WaitsNotForEverForAToolThatHangs)
+{
+    m_tool.install("org.example.App", "App");
+    m_tool.replaceBy("echo org.example.App; sleep 600");
+    constexpr Flatpaks::TimeLimits limits{ std::chrono::milliseconds(300), std::chrono::milliseconds(300) };
+    const Flatpaks hanging(m_environment, { m_folder / "bin" }, limits);
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_THAT(hanging.installed(Cancellation()), IsEmpty());
+    EXPECT_NE(m_tool.calls(), "");
+    try {
+        hanging.uninstall(application("org.example.App"), Cancellation());
+        ADD_FAILURE() << "nothing was thrown";
+    } catch (const FileError& error) {
+        EXPECT_EQ(error.code(), std::errc::timed_out);
+        EXPECT_EQ(error.path(), application("org.example.App").path);
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5));
+}
+
 TEST_F(FlatpaksTest, HasTheToolUninstall)
 {
     const auto folder = m_tool.install("org.example.App", "App");

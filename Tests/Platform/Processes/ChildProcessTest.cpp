@@ -191,6 +191,30 @@ TEST_F(ChildProcessTest, EndsWhatRunsWhenItIsCancelled)
     }
 }
 
+TEST_F(ChildProcessTest, EndsWhatRunsForTooLong)
+{
+    const TemporaryFolder folder;
+    for (const std::string manner : { "willing", "stubborn" }) {
+        const auto file = folder / manner;
+        auto process = helper({ "sleep", manner, file.native() });
+        process.timeLimit = 1s;
+        const auto begin = Clock::now();
+        try {
+            run(process);
+            ADD_FAILURE() << manner;
+        } catch (const FileError& error) {
+            EXPECT_EQ(error.code(), std::errc::timed_out) << manner;
+            EXPECT_EQ(error.path(), process.program);
+        }
+        EXPECT_GE(Clock::now() - begin, 1s);
+        EXPECT_LT(Clock::now() - begin, manner == "willing" ? 2500ms : 6s);
+        EXPECT_EQ(::kill(numberIn(file), 0), -1) << manner;
+    }
+    auto quick = helper({ "exit", "3" });
+    quick.timeLimit = 60s;
+    EXPECT_EQ(run(quick).exitStatus, 3);
+}
+
 TEST_F(ChildProcessTest, StartsNothingThatWasCancelledBefore)
 {
     const Cancellation cancellation;
