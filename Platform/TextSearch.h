@@ -11,8 +11,9 @@ namespace Korvane {
 /// Whether `part` occurs in `text`, both UTF-8, as a person who reads the user's language sees it: case does not count,
 /// accents do, and composed and decomposed letters are the same.
 ///
-/// By ICU's string search with the collation of the user's locale at its secondary strength. An empty part, or one of
-/// nothing that collation sees, occurs in everything. Bytes that are not UTF-8 count as U+FFFD. Any thread.
+/// What stands there letter by letter is found, and what ICU's string search finds with the collation of the user's
+/// locale at its secondary strength: in Danish "aa" in "å". An empty part, or one of nothing that collation sees, occurs
+/// in everything. Bytes that are not UTF-8 count as U+FFFD. Any thread.
 bool localizedCaseInsensitiveContains(std::string_view text, std::string_view part);
 
 /// The same for a reader of another language; `locale` is named as ICU does ("de_DE", "tr").

@@ -19,8 +19,9 @@ public:
     {
         ::posix_spawnattr_init(&m_attributes);
         sigset_t all, none;
-        ::sigfillset(&all);
-        ::sigemptyset(&none);
+        // These two are macros of the platform, so that no "::" may stand before them.
+        sigfillset(&all);
+        sigemptyset(&none);
         ::posix_spawnattr_setsigdefault(&m_attributes, &all);
         ::posix_spawnattr_setsigmask(&m_attributes, &none);
         ::posix_spawnattr_setpgroup(&m_attributes, 0);

@@ -55,6 +55,20 @@ TEST(TextSearch, KnowsTheLettersOfTurkish)
     EXPECT_TRUE(contains("KIRMIZI", "kirmizi", "en_US"));
 }
 
+TEST(TextSearch, FindsHalfOfWhatALanguageCountsAsOneLetter)
+{
+    EXPECT_TRUE(contains("Chrome", "c", "cs_CZ"));
+    EXPECT_TRUE(contains("Chrome", "HROM", "sk"));
+    EXPECT_TRUE(contains("Shotwell", "s", "sq"));
+    EXPECT_TRUE(contains("Gyroscope", "G", "hu"));
+    EXPECT_TRUE(contains("Photos", "p", "cy"));
+    EXPECT_TRUE(contains("Ångström", "AANG", "da"));
+    EXPECT_FALSE(contains("Čas", "c", "cs_CZ"));
+    EXPECT_FALSE(contains("C\u030Cas", "c", "cs_CZ"));
+    EXPECT_FALSE(contains("q\u0303", "q", "cs_CZ"));
+    EXPECT_TRUE(contains("q\u0303q", "q", "cs_CZ"));
+}
+
 TEST(TextSearch, FindsAnEmptyPartEverywhere)
 {
     EXPECT_TRUE(contains("Mail", ""));
