@@ -19,8 +19,8 @@ class PrefixReader;
 
 /// SHA-256 digests of the first bytes of regular files, one file after another, while the system fetches the next ones.
 ///
-/// A file is read once, from its start to the end of the prefix and no further. Holds one buffer of 256 KiB at most and
-/// 8 open files. One thread at a time.
+/// A prefix of up to 4 MiB that is in memory is read by one call; nothing is ever read twice, or beyond the prefix.
+/// Holds one buffer of at most the prefix (4 MiB when that is larger) and 8 open files. One thread at a time.
 class FileDigest {
 public:
     /// The path of the file of this number. Called by nextPrefixHash(), only for files whose digest has not been given

@@ -37,10 +37,17 @@ public:
     /// Lets the system forget what it holds of these ranges, as far as nobody else uses them.
     void giveBack(const std::vector<FileRange>& ranges) const noexcept;
 
-    /// Reads what lies in the range; the number of bytes, fewer only at the end of the file, -1 when reading fails.
-    std::int64_t read(unsigned char* buffer, FileRange range) const;
+    /// Reads what lies in the range; the number of bytes, fewer at the end of the file or when cancelled, -1 when
+    /// reading fails.
+    ///
+    /// What is in memory already is taken by one call. What a disk must be waited for comes in small pieces, so that a
+    /// cancel never waits for much.
+    std::int64_t read(unsigned char* buffer, FileRange range, const Cancellation& cancellation) const;
 
 private:
+    /// Reads the beginning of the range as far as it is in memory; the number of bytes, 0 also where the system cannot.
+    std::int64_t readFromMemory(unsigned char* buffer, FileRange range) const;
+
     FileDescriptor m_descriptor;
     bool m_lacksDescriptor = false;
     std::int64_t m_size = 0;

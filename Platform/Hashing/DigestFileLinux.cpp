@@ -161,4 +161,10 @@ void DigestFile::giveBack(const std::vector<FileRange>& ranges) const noexcept
         (void)posix_fadvise(m_descriptor.get(), range.offset, range.count, POSIX_FADV_DONTNEED);
 }
 
+std::int64_t DigestFile::readFromMemory(unsigned char* buffer, FileRange range) const
+{
+    iovec target{ buffer, static_cast<std::size_t>(range.count) };
+    return std::max<std::int64_t>(preadv2(m_descriptor.get(), &target, 1, range.offset, RWF_NOWAIT), 0);
+}
+
 } // namespace Korvane

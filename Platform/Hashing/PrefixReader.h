@@ -10,8 +10,8 @@ namespace Korvane {
 
 /// Reads the first bytes of files once and in order, while the system is told ahead what comes next.
 ///
-/// Whoever takes the portions reads them too: what was just copied is still in that core's caches, where a second
-/// thread's copy would have to be fetched from another core. Holds one buffer of 256 KiB at most. One thread at a time.
+/// Whoever takes the portions reads them too: a second thread's copy would have to be fetched from another core. Holds
+/// one buffer of at most a portion. One thread at a time.
 class PrefixReader {
 public:
     PrefixReader(
@@ -26,13 +26,11 @@ public:
 
 private:
     void readFirst();
-    void popFirst();
-    std::int64_t capacity() const noexcept;
+    std::size_t capacity() const noexcept;
 
     const std::int64_t m_prefixBytes;
     const Cancellation m_cancellation;
     UpcomingPortions m_upcoming;
-    std::int64_t m_done = 0; ///< Bytes of the first upcoming portion that have been read.
     ReadPortion m_portion;
 };
 

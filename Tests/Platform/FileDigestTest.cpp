@@ -77,7 +77,7 @@ TEST_F(FileDigestTest, PrefixLargerThanOneReadIsHashedWhole)
 
 TEST_F(FileDigestTest, FilesAndPrefixesThatEndAtTheEdgeOfAPieceAreHashedWhole)
 {
-    // A piece has 256 KiB, and the system is told of 4 MiB at a time.
+    // A disk is waited for 256 KiB at a time, and the system is told of 4 MiB at a time.
     for (const std::size_t edge : { 262'144U, 524'288U, 4'194'304U }) {
         for (const std::size_t size : { edge - 1, edge, edge + 1 }) {
             std::string content(size, 'x');
