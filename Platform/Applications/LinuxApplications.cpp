@@ -4,8 +4,10 @@
 #include "Platform/Applications/LinuxApplications.h"
 
 #include "Platform/Applications/ApplicationUnit.h"
+#include "Platform/Applications/BundleAround.h"
 #include "Platform/Applications/InstalledApplications.h"
 #include "Platform/Applications/Interpreters.h"
+#include "Platform/Bundle.h"
 #include "Platform/LowerCase.h"
 #include "Platform/SmallFile.h"
 
@@ -91,6 +93,22 @@ std::optional<ProgramInvocation> invocationOf(const std::filesystem::path& proce
     return program;
 }
 
+/// The identifier of the bundle in which a program lies, or the script that an interpreter runs.
+std::optional<std::string> bundleIdentifier(const ProgramInvocation& program)
+{
+    auto file = program.executable;
+    if (isInterpreter(file.filename().native())) {
+        const auto script = std::find_if(program.arguments.begin(), program.arguments.end(),
+            [](const auto& argument) { return !bundleAround(argument).empty(); });
+        if (script == program.arguments.end())
+            return std::nullopt;
+        file = *script;
+    }
+    const auto folder = bundleAround(file);
+    const auto bundle = folder.is_absolute() ? Bundle::open(folder) : std::nullopt;
+    return bundle ? bundle->bundleIdentifier() : std::nullopt;
+}
+
 } // namespace
 
 LinuxApplications LinuxApplications::ofThisProcess(const std::filesystem::path& dataHome)
@@ -121,9 +139,11 @@ std::vector<std::string> LinuxApplications::runningIdentifiers() const
         if (const auto groups = contentsOfSmallFile(process / "cgroup", largestProcessFile))
             insert(applicationOfControlGroups(*groups));
         insert(flatpakIdentifier(process));
-        if (const auto program = invocationOf(process))
+        if (const auto program = invocationOf(process)) {
+            insert(bundleIdentifier(*program));
             for (const auto& identifier : installed.identifiersOf(*program))
                 insert(identifier);
+        }
     }
     return { identifiers.begin(), identifiers.end() };
 }

@@ -20,9 +20,9 @@ struct LinuxApplications {
     /// The places of this process: XDG_DATA_HOME as `dataHome`, XDG_DATA_DIRS, PATH, and this process's user.
     static LinuxApplications ofThisProcess(const std::filesystem::path& dataHome);
 
-    /// Their ids, sorted, each once: from application units and sandboxes, and from the programs that installed desktop
-    /// entries start, with the window class of those. Interpreters' names are never among them. Processes that go
-    /// away meanwhile are left out. Any thread.
+    /// Their ids, sorted, each once: from application units and sandboxes, from the bundles that programs lie in, and
+    /// from the programs that installed desktop entries start, with the window class of those. Interpreters' names are
+    /// never among them. Processes that go away meanwhile are left out. Any thread.
     std::vector<std::string> runningIdentifiers() const;
 };
 

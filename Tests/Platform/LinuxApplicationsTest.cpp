@@ -6,6 +6,7 @@
 #include "Platform/Applications/Interpreters.h"
 #include "Tests/Support/ChildProgram.h"
 #include "Tests/Support/TemporaryFolder.h"
+#include "Tests/Support/TestBundles.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -110,6 +111,22 @@ TEST_F(LinuxApplicationsTest, NamesTheApplicationInASandbox)
     const auto broken = process("");
     writeFile(broken / "root/.flatpak-info", "name=outside.every.group\n[Instance]\nname=no\n");
     EXPECT_THAT(running(), ElementsAre("org.mozilla.firefox"));
+}
+
+TEST_F(LinuxApplicationsTest, NamesTheBundleThatAProgramLiesIn)
+{
+    const auto started = makeBundle(folder / "Applications/Started.app", "org.example.Started");
+    const auto scripted = makeBundle(folder / "Applications/Scripted.app", "org.example.Scripted");
+    makeBundle(folder / "Applications/Idle.app", "org.example.Idle");
+    makeBundle(folder / "Applications/Beside.app", "org.example.Beside");
+    writeFile(folder / "Applications/Bare.app/Contents/MacOS/program", "none");
+    process(started / "Contents/MacOS/program (deleted)");
+    process(program("usr/bin/bash"), { "bash", "-e", scripted / "Contents/MacOS/program" });
+    process(folder / "Applications/Beside.app/Contents/Resources/tool", { scripted / "Contents/MacOS/program" });
+    process(folder / "Applications/Bare.app/Contents/MacOS/program");
+    process(folder / "Applications/Missing.app/Contents/MacOS/program");
+    process(folder / "usr/bin/bash", { "bash", "Idle.app/Contents/MacOS/program" });
+    EXPECT_THAT(running(), ElementsAre("org.example.Scripted", "org.example.Started"));
 }
 
 TEST_F(LinuxApplicationsTest, MatchesExecutablesToInstalledEntries)
