@@ -17,6 +17,7 @@ Item {
     AppIcon {
         id: icon
 
+        anchors.verticalCenter: parent.verticalCenter
         size: 72
         source: header.viewModel.selected.iconSource
     }
@@ -26,13 +27,14 @@ Item {
         anchors.left: icon.right
         anchors.leftMargin: Theme.spacingLarge
         anchors.right: parent.right
-        anchors.verticalCenter: icon.verticalCenter
+        anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.spacingTiny
 
         Label {
             width: parent.width
             style: Label.Title
-            elide: Text.ElideMiddle
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
             text: header.viewModel.selected.name
             Accessible.role: Accessible.Heading
         }
@@ -41,6 +43,13 @@ Item {
             style: Label.Title3
             color: Theme.secondaryLabel
             text: header.viewModel.selected.totalText
+        }
+        Label {
+            width: parent.width
+            style: Label.Caption
+            color: Theme.tertiaryLabel
+            visible: header.viewModel.selected.identifier !== ""
+            text: header.viewModel.selected.identifier
         }
         Row {
             visible: header.viewModel.selectedRunning

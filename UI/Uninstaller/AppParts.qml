@@ -71,11 +71,21 @@ Flickable {
         }
         Card {
             width: parent.width
-            height: leftovers.height
-            visible: rows.count > 0
+            height: rows.count > 0 ? leftovers.height : nothing.height + 2 * Theme.spacingLarge
             radius: Theme.radiusLarge
             shadow: false
 
+            Label {
+                id: nothing
+
+                x: Theme.spacingLarge
+                y: Theme.spacingLarge
+                width: parent.width - 2 * Theme.spacingLarge
+                visible: rows.count === 0
+                wrapMode: Text.Wrap
+                color: Theme.secondaryLabel
+                text: parts.viewModel.selected.withoutLeftovers
+            }
             Column {
                 id: leftovers
 

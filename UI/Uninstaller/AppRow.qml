@@ -18,8 +18,8 @@ T.ItemDelegate {
     required property string iconSource
     required property bool selected
 
-    /// Whether the keyboard is on the list.
-    property bool listFocused: false
+    /// Whether the list is gone through with the keyboard.
+    property bool byKeyboard: false
 
     leftPadding: Theme.spacingMedium + Theme.spacing
     rightPadding: Theme.spacingMedium + Theme.spacing
@@ -46,14 +46,14 @@ T.ItemDelegate {
     background: Item {
         Rectangle {
             anchors.fill: parent
-            anchors.leftMargin: Theme.spacing
-            anchors.rightMargin: Theme.spacing
+            anchors.leftMargin: Theme.spacingMedium
+            anchors.rightMargin: Theme.spacingMedium
             anchors.topMargin: 1
             anchors.bottomMargin: 1
             radius: Theme.radius
             color: row.selected ? Theme.selectionFill : row.down ? Theme.pressedFill
                 : row.hovered ? Theme.hoverFill : "transparent"
-            border.width: row.selected && row.listFocused ? 2 : 0
+            border.width: row.selected && row.byKeyboard ? 2 : 0
             border.color: Theme.focusRing
         }
     }

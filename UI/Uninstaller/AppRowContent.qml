@@ -43,7 +43,6 @@ Item {
 
         Label {
             width: parent.width
-            elide: Text.ElideMiddle
             font.weight: Font.Medium
             text: content.name
             Accessible.ignored: true

@@ -14,6 +14,8 @@ ListView {
 
     required property UninstallerViewModel viewModel
 
+    /// Whether the pointer was the last to choose a row; the keyboard then needs no ring.
+    property bool pointed: false
     readonly property int rowHeight: 60
     readonly property int rowsPerPage: Math.max(1, Math.floor(list.height / list.rowHeight) - 1)
 
@@ -80,7 +82,9 @@ ListView {
     Accessible.name: qsTr("Applications")
     T.ScrollBar.vertical: ScrollBar { }
 
+    onActiveFocusChanged: list.pointed = false
     Keys.onPressed: event => {
+        list.pointed = false;
         const commands = Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier;
         event.accepted = list.takesKey(event.key);
         if (event.accepted || (event.modifiers & commands) !== 0 || event.text.trim() === "")
@@ -95,10 +99,11 @@ ListView {
     delegate: AppRow {
         width: list.width
         height: list.rowHeight
-        listFocused: list.activeFocus
+        byKeyboard: list.activeFocus && !list.pointed
         onClicked: {
             list.viewModel.selectRow(index);
             list.forceActiveFocus(Qt.MouseFocusReason);
+            list.pointed = true;
         }
     }
 }

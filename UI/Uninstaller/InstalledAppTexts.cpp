@@ -4,10 +4,24 @@
 #include "UI/Uninstaller/InstalledAppTexts.h"
 
 #include "Core/Scanning/FormattedBytes.h"
+#include "Core/Uninstalling/LeftoverPlaces.h"
 #include "Platform/DisplayText.h"
 #include "UI/Uninstaller/ApplicationIconProvider.h"
 
 namespace Korvane {
+
+namespace {
+
+QString whyWithoutLeftovers(const InstalledApp& app)
+{
+    if (!app.leftovers.empty())
+        return {};
+    return app.bundleID && isFileName(*app.bundleID)
+        ? InstalledAppTexts::tr("No leftover files were found.")
+        : InstalledAppTexts::tr("Without a usable identifier, no leftover files can be told to be this app\u2019s.");
+}
+
+} // namespace
 
 InstalledAppTexts InstalledAppTexts::of(const InstalledApp& app)
 {
@@ -15,10 +29,12 @@ InstalledAppTexts InstalledAppTexts::of(const InstalledApp& app)
     InstalledAppTexts texts;
     texts.name = QString::fromStdString(displayText(std::string_view(app.name)));
     texts.path = QString::fromStdString(displayText(app.url));
+    texts.identifier = QString::fromStdString(displayText(std::string_view(app.bundleID.value_or(""))));
     texts.sizeText = QString::fromStdString(formattedBytes(app.sizeInBytes));
     texts.totalText = QString::fromStdString(formattedBytes(app.totalSize()));
     texts.iconSource = ApplicationIconProvider::source(app.id);
     texts.leftoversTitle = tr("Leftovers (%1)").arg(leftovers);
+    texts.withoutLeftovers = whyWithoutLeftovers(app);
     texts.question = tr("Uninstall %1?").arg(texts.name);
     if (app.kind == InstalledApp::Kind::Flatpak) {
         texts.note = tr("Removes the app for good and moves all leftovers to Trash");

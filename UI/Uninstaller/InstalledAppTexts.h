@@ -18,10 +18,12 @@ class InstalledAppTexts {
     Q_DECLARE_TR_FUNCTIONS(Korvane::InstalledAppTexts)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QString path MEMBER path)
+    Q_PROPERTY(QString identifier MEMBER identifier)
     Q_PROPERTY(QString sizeText MEMBER sizeText)
     Q_PROPERTY(QString totalText MEMBER totalText)
     Q_PROPERTY(QString iconSource MEMBER iconSource)
     Q_PROPERTY(QString leftoversTitle MEMBER leftoversTitle)
+    Q_PROPERTY(QString withoutLeftovers MEMBER withoutLeftovers)
     Q_PROPERTY(QString note MEMBER note)
     Q_PROPERTY(QString question MEMBER question)
     Q_PROPERTY(QString consequence MEMBER consequence)
@@ -30,10 +32,12 @@ class InstalledAppTexts {
 public:
     QString name;
     QString path; ///< Of the application itself.
+    QString identifier; ///< As the application states it; empty when it states none.
     QString sizeText; ///< Of the application itself.
     QString totalText; ///< Of the application with its leftovers.
     QString iconSource; ///< What an Image is to show.
     QString leftoversTitle; ///< Above the leftovers.
+    QString withoutLeftovers; ///< Why there are no leftovers; empty when there are some.
     QString note; ///< Beside the button.
     QString question; ///< The title of the confirmation.
     QString consequence; ///< What will happen.

@@ -17,7 +17,7 @@ FocusScope {
     AppsPane {
         id: apps
 
-        width: Math.max(270, Math.min(360, Math.round(view.width * 0.38)))
+        width: Math.max(288, Math.min(380, Math.round(view.width * 0.38)))
         height: parent.height
         focus: true
         viewModel: view.viewModel

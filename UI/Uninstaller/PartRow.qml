@@ -44,7 +44,8 @@ Item {
             width: parent.width
             style: Label.Caption
             color: Theme.tertiaryLabel
-            elide: Text.ElideMiddle
+            // The end tells one place from another.
+            elide: Text.ElideLeft
             text: row.path
             Accessible.ignored: true
         }

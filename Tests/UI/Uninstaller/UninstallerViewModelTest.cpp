@@ -30,7 +30,6 @@ private Q_SLOTS:
     void mayBeDestroyedWhileScanning();
     void theSelectionSurvivesASearch();
     void tellsWhatIsSelected();
-    void aFlatpakSaysThatItCannotBePutBack();
     void runsByExactIdentifierOnly();
     void followsWhatRunsWhileSeenAndSelected();
     void asksNobodyWhileNothingIsSelectedOrSeen();
@@ -236,17 +235,6 @@ void UninstallerViewModelTest::tellsWhatIsSelected()
     QCOMPARE(leftovers.rowCount(), 0);
     QCOMPARE(
         m_model->selectedTexts().consequence, QStringLiteral("The app and 0 leftover items will be moved to Trash."));
-}
-
-void UninstallerViewModelTest::aFlatpakSaysThatItCannotBePutBack()
-{
-    InstalledApp flatpak = app("Boxed", "org.example.Boxed");
-    flatpak.kind = InstalledApp::Kind::Flatpak;
-    const InstalledAppTexts texts = InstalledAppTexts::of(flatpak);
-    QCOMPARE(texts.consequence,
-        QStringLiteral("Flatpak will remove the app for good: it can be installed again, but not be put back. "
-                       "0 leftover items will be moved to Trash."));
-    QCOMPARE(texts.consent, QStringLiteral("Uninstall"));
 }
 
 void UninstallerViewModelTest::runsByExactIdentifierOnly()
