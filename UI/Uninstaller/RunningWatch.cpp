@@ -46,7 +46,8 @@ void RunningWatch::ask()
         this, [workspace = m_workspace] { return std::make_optional<RunningApps>(*workspace); },
         [this](std::optional<RunningApps> running) {
             m_isAsking = false;
-            setRunning(std::move(*running));
+            if (running) // Always; the compiler cannot see it, and a future wants values that may be empty.
+                setRunning(std::move(*running));
             if (m_isWatched)
                 m_pause.start();
         });
