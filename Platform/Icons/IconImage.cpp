@@ -4,6 +4,7 @@
 #include "Platform/Icons/IconImage.h"
 
 #include "Platform/Icons/BigEndian.h"
+#include "Platform/Icons/PlainDrawing.h"
 #include "Platform/SmallFile.h"
 
 namespace Korvane {
@@ -35,7 +36,7 @@ std::optional<int> pngWidth(std::string_view start)
 std::optional<std::string> iconImage(const std::filesystem::path& file)
 {
     auto bytes = contentsOfSmallFile(file, largestIconImage);
-    if (bytes && !pngWidth(*bytes) && !isSvg(*bytes))
+    if (bytes && !pngWidth(*bytes) && !(isSvg(*bytes) && isPlainDrawing(*bytes)))
         return std::nullopt;
     return bytes;
 }

@@ -20,7 +20,7 @@ inline constexpr std::size_t pngStart = 24;
 /// of no PNG image, or of one that is wider or higher than any icon is.
 std::optional<int> pngWidth(std::string_view start);
 
-/// The bytes of a file that is a PNG or an SVG image and no larger than an icon may be.
+/// The bytes of a file that is a PNG image, or a plain drawing in SVG, and no larger than an icon may be.
 std::optional<std::string> iconImage(const std::filesystem::path& file);
 
 } // namespace Korvane

@@ -168,6 +168,11 @@ Complaints checkPlatformSeam(const SourceText& file)
     static const std::regex system(R"(^\s*#\s*(if|ifdef|ifndef|elif)\b.*(__APPLE__|__linux__|__MACH__|_WIN32|Q_OS_))");
     const Complaints asked = checkLines(file, system, "the system is chosen by the build, not the preprocessor");
     complaints.insert(complaints.end(), asked.begin(), asked.end());
+    static const std::regex macros(R"(::sig(add|del|empty|fill)set\b|::sigismember\b)");
+    if (!file.path.stem().string().ends_with("Linux")) {
+        const Complaints written = checkLines(file, macros, "a macro on macOS, where no \"::\" may stand before it");
+        complaints.insert(complaints.end(), written.begin(), written.end());
+    }
     return complaints;
 }
 

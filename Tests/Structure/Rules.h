@@ -22,8 +22,8 @@ Complaints checkPurity(const SourceText& file);
 /// QML knows Qt and Korvane.UI, says `pragma ComponentBehavior: Bound`, and sits in a room that may draw.
 Complaints checkQml(const SourceText& file);
 
-/// Objective-C++ lives only in Platform's and App's *MacOS.mm, and no source asks the preprocessor which system it is
-/// on.
+/// Objective-C++ lives only in Platform's and App's *MacOS.mm, no source asks the preprocessor which system it is on, and
+/// none but those for Linux qualifies what is a macro on macOS.
 Complaints checkPlatformSeam(const SourceText& file);
 
 /// Outside Platform nothing removes or moves a file by itself: that is asked of FileManager.

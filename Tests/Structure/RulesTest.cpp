@@ -100,6 +100,8 @@ TEST(PlatformSeam, ObjectiveCAndTheSystemStayBehindIt)
     EXPECT_THAT(seam("Core/A.cpp", "#ifdef __APPLE__\n#elif defined(Q_OS_LINUX)\n"), SizeIs(2));
     EXPECT_THAT(seam("Tests/Platform/A.cpp", "#ifdef __APPLE__\n"), IsEmpty()) << "a test may differ by system";
     EXPECT_THAT(seam("Core/A.h", "#pragma once\n#include <vector>\n"), IsEmpty());
+    EXPECT_THAT(seam("Platform/AMacOS.cpp", "    ::sigfillset(&all);\n    sigemptyset(&none);\n"), SizeIs(1));
+    EXPECT_THAT(seam("Platform/ALinux.cpp", "    ::sigfillset(&all);\n"), IsEmpty());
 }
 
 TEST(Removing, IsAskedOfTheFileManager)
