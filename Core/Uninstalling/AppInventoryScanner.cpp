@@ -49,12 +49,11 @@ std::optional<std::string> bundleIdentifier(const std::filesystem::path& url)
     return bundle ? bundle->bundleIdentifier() : std::nullopt;
 }
 
-/// The folder free of links, where it can be found out.
-std::filesystem::path resolved(const std::filesystem::path& folder)
+/// Whether the path leads to the bundle, which is free of links; the bundle is empty when there is none.
+bool leadsTo(const std::filesystem::path& bundle, const std::filesystem::path& path)
 {
     std::error_code error;
-    auto path = std::filesystem::canonical(folder, error);
-    return error ? folder : path;
+    return !bundle.empty() && (path == bundle || std::filesystem::canonical(path, error) == bundle);
 }
 
 InstalledApp::Kind kindOf(HostApplication::Kind kind)
@@ -100,11 +99,10 @@ private:
     void addBundles(const std::filesystem::path& folder)
     {
         const auto own = m_host.applications->mainBundle();
-        const auto resolvedFolder = resolved(folder);
         for (const auto& child : visibleChildren(folder, *m_host.files)) {
             m_cancellation.throwIfCancelled();
             const auto stem = stemOfApplication(child);
-            if (stem && child != own && resolvedFolder / lastPathComponent(child) != own)
+            if (stem && !leadsTo(own, child))
                 addBundle(child, *stem);
         }
     }

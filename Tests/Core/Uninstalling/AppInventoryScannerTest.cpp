@@ -4,6 +4,7 @@
 #include "Core/Scanning/FileSizeCalculator.h"
 #include "Tests/Core/Uninstalling/InventoryFixture.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -175,6 +176,17 @@ TEST_F(AppInventoryScannerTest, ThisProgramIsKnownThroughALinkOnTheWayToItsFolde
     std::filesystem::create_directory_symlink(folder() / "elsewhere", home() / "Applications");
     catalog().ownBundle = folder() / "elsewhere/Korvane.app";
     EXPECT_EQ(places(scanApps()), Paths{ own("Other.app") });
+}
+
+TEST_F(AppInventoryScannerTest, ThisProgramIsKnownThroughALinkInPlaceOfItsBundle)
+{
+    makeBundle(folder() / "elsewhere/Korvane.app", "org.korvane.Korvane");
+    makeBundle(own("Other.app"), "com.example.other");
+    std::filesystem::create_directories(folder() / "Applications");
+    std::filesystem::create_directory_symlink(folder() / "elsewhere/Korvane.app", shared("Korvane.app"));
+    std::filesystem::create_directory_symlink(own("Loop.app"), own("Loop.app"));
+    catalog().ownBundle = std::filesystem::canonical(folder() / "elsewhere/Korvane.app");
+    EXPECT_THAT(places(scanApps()), testing::UnorderedElementsAre(own("Other.app"), own("Loop.app")));
 }
 
 TEST_F(AppInventoryScannerTest, TwoBundlesWithOneIdentifierEachListItsLeftovers)
