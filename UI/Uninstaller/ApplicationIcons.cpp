@@ -12,6 +12,7 @@
 #include <QSvgRenderer>
 
 #include <algorithm>
+#include <limits>
 #include <optional>
 #include <string>
 #include <utility>
@@ -26,16 +27,17 @@ constexpr int cacheBytes = 8 * 1024 * 1024;
 // Wider or higher than any icon format has it; a picture that claims more is not decoded.
 constexpr int largestSide = 4096;
 
-/// Where the icon of an application is looked for: an AppImage keeps it beside itself, the others in themselves.
-std::filesystem::path iconPlace(const InstalledApp& app)
+/// Where the icon of an application is looked for: an AppImage keeps several beside itself, the others in themselves.
+std::vector<std::filesystem::path> iconPlaces(const InstalledApp& app)
 {
-    if (app.kind == InstalledApp::Kind::AppImage) {
-        for (const ScanItem& leftover : app.leftovers) {
-            if (leftover.category == "Icons")
-                return leftover.url;
-        }
+    if (app.kind != InstalledApp::Kind::AppImage)
+        return { app.url };
+    std::vector<std::filesystem::path> places;
+    for (const ScanItem& leftover : app.leftovers) {
+        if (leftover.category == "Icons")
+            places.push_back(leftover.url);
     }
-    return app.url;
+    return places;
 }
 
 QImage centred(const QImage& picture, int pixels)
@@ -61,21 +63,57 @@ QImage drawn(QSvgRenderer& renderer, int pixels)
     return image;
 }
 
-/// A picture of anybody's making: null unless it is a PNG of sensible size, or a drawing.
-QImage decoded(const std::string& bytes, int pixels)
+/// A picture of anybody's making, not yet decoded.
+struct Candidate {
+    QByteArray data;
+    int side = 0; ///< Of a PNG its width; a drawing fits every size.
+};
+
+/// Nothing unless it is a PNG of sensible size, or a drawing.
+std::optional<Candidate> candidate(const std::string& bytes)
 {
-    QByteArray data = QByteArray::fromStdString(bytes);
-    if (!data.startsWith("\x89PNG")) {
-        QSvgRenderer renderer(data);
+    Candidate candidate{ QByteArray::fromStdString(bytes), std::numeric_limits<int>::max() };
+    if (!candidate.data.startsWith("\x89PNG"))
+        return candidate;
+    QBuffer buffer(&candidate.data);
+    const QSize size = QImageReader(&buffer, "png").size();
+    if (size.isEmpty() || size.width() > largestSide || size.height() > largestSide)
+        return std::nullopt;
+    candidate.side = size.width();
+    return candidate;
+}
+
+QImage decoded(const Candidate& candidate, int pixels)
+{
+    if (!candidate.data.startsWith("\x89PNG")) {
+        QSvgRenderer renderer(candidate.data);
         return drawn(renderer, pixels);
     }
-    QBuffer buffer(&data);
-    QImageReader reader(&buffer, "png");
-    const QSize size = reader.size();
-    if (size.isEmpty() || size.width() > largestSide || size.height() > largestSide)
-        return {};
-    const QImage picture = reader.read();
+    const QImage picture = QImage::fromData(candidate.data, "png");
     return picture.isNull() ? QImage() : centred(picture, pixels);
+}
+
+/// Of what lies at these places the smallest that is wide enough, else the widest; null when there is none.
+QImage iconAt(const std::vector<std::filesystem::path>& places, int pixels)
+{
+    std::vector<Candidate> candidates;
+    for (const auto& place : places) {
+        if (const auto bytes = applicationIcon(place, pixels)) {
+            if (auto found = candidate(*bytes))
+                candidates.push_back(std::move(*found));
+        }
+    }
+    std::stable_sort(candidates.begin(), candidates.end(), [pixels](const Candidate& left, const Candidate& right) {
+        const bool isLeftEnough = left.side >= pixels;
+        if (isLeftEnough != (right.side >= pixels))
+            return isLeftEnough;
+        return isLeftEnough ? left.side < right.side : left.side > right.side;
+    });
+    for (const Candidate& candidate : candidates) {
+        if (const QImage image = decoded(candidate, pixels); !image.isNull())
+            return image;
+    }
+    return {};
 }
 
 QImage genericIcon(int pixels)
@@ -93,9 +131,9 @@ ApplicationIcons::ApplicationIcons()
 
 void ApplicationIcons::setApps(const std::vector<InstalledApp>& apps)
 {
-    QHash<QString, std::filesystem::path> places;
+    QHash<QString, std::vector<std::filesystem::path>> places;
     for (const InstalledApp& app : apps)
-        places.insert(QString::fromStdString(app.id.toString()), iconPlace(app));
+        places.insert(QString::fromStdString(app.id.toString()), iconPlaces(app));
     const QMutexLocker lock(&m_mutex);
     m_places = std::move(places);
     m_images.clear();
@@ -104,16 +142,14 @@ void ApplicationIcons::setApps(const std::vector<InstalledApp>& apps)
 QImage ApplicationIcons::image(const QString& appId, int pixels)
 {
     pixels = std::clamp(pixels, 1, 1024);
-    std::filesystem::path place;
+    std::vector<std::filesystem::path> places;
     {
         const QMutexLocker lock(&m_mutex);
         if (const QImage* known = m_images.object({ appId, pixels }))
             return *known;
-        place = m_places.value(appId);
+        places = m_places.value(appId);
     }
-    QImage image;
-    if (const auto bytes = place.empty() ? std::nullopt : applicationIcon(place, pixels))
-        image = decoded(*bytes, pixels);
+    QImage image = iconAt(places, pixels);
     if (image.isNull())
         image = genericIcon(pixels);
     const QMutexLocker lock(&m_mutex);

@@ -39,7 +39,7 @@ private:
     friend size_t qHash(const Key& key, size_t seed) { return qHashMulti(seed, key.appId, key.pixels); }
 
     QMutex m_mutex;
-    QHash<QString, std::filesystem::path> m_places;
+    QHash<QString, std::vector<std::filesystem::path>> m_places;
     QCache<Key, QImage> m_images;
 };
 
