@@ -7,12 +7,9 @@
 ///     bench-ui-scrolling FOLDER [SETS]    the home is "home" in the folder; 50,000 sets of two unless told otherwise
 
 #include "App/KorvaneApp.h"
-#include "Benchmarks/tools/WatchedApplication.h"
+#include "Benchmarks/tools/ListJourney.h"
 #include "Platform/Host.h"
 
-#include <QKeyEvent>
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QTimer>
 
 #include <cstdlib>
@@ -48,59 +45,6 @@ private:
     int m_sets;
 };
 
-struct Step {
-    const char* name;
-    Qt::Key key;
-    int times;
-};
-
-/// Presses the keys one after the other, each when the window has settled after the one before.
-class Journey : public QObject {
-public:
-    Journey(QQuickWindow* window, WatchedApplication& application)
-        : m_window(window)
-        , m_application(application)
-    {
-        m_pace.setInterval(60);
-        connect(&m_pace, &QTimer::timeout, this, [this] { press(); });
-    }
-
-    void begin(QQuickItem* list)
-    {
-        m_list = list;
-        m_pace.start();
-    }
-
-private:
-    void press()
-    {
-        static constexpr Step steps[]
-            = { { "End", Qt::Key_End, 1 }, { "Home", Qt::Key_Home, 1 }, { "PageDown", Qt::Key_PageDown, 40 },
-                  { "Down", Qt::Key_Down, 40 }, { "End", Qt::Key_End, 1 }, { "PageUp", Qt::Key_PageUp, 40 },
-                  { "Up", Qt::Key_Up, 40 }, { "Space", Qt::Key_Space, 4 }, { "Home", Qt::Key_Home, 1 } };
-        if (m_pressed == 0)
-            m_application.restart();
-        const Step& step = steps[m_step];
-        if (m_pressed++ < step.times) {
-            for (const auto type : { QEvent::KeyPress, QEvent::KeyRelease })
-                QCoreApplication::postEvent(m_window, new QKeyEvent(type, step.key, Qt::NoModifier));
-            return;
-        }
-        m_application.report(step.name);
-        std::printf("%-10s row %d\n", "", m_list->property("currentIndex").toInt());
-        m_pressed = 0;
-        if (++m_step == std::size(steps))
-            QCoreApplication::quit();
-    }
-
-    QQuickWindow* m_window;
-    QQuickItem* m_list = nullptr;
-    WatchedApplication& m_application;
-    QTimer m_pace;
-    std::size_t m_step = 0;
-    int m_pressed = 0;
-};
-
 } // namespace
 
 int main(int argc, char* argv[])
@@ -115,7 +59,10 @@ int main(int argc, char* argv[])
     KorvaneApp korvane(makeHost(environment));
     if (!korvane.start())
         return 1;
-    Journey journey(korvane.mainWindow(), application);
+    ListJourney journey(korvane.mainWindow(), application,
+        { { "End", Qt::Key_End, 1 }, { "Home", Qt::Key_Home, 1 }, { "PageDown", Qt::Key_PageDown, 40 },
+            { "Down", Qt::Key_Down, 40 }, { "End", Qt::Key_End, 1 }, { "PageUp", Qt::Key_PageUp, 40 },
+            { "Up", Qt::Key_Up, 40 }, { "Space", Qt::Key_Space, 4 }, { "Home", Qt::Key_Home, 1 } });
     QTimer::singleShot(1000, &application, [&] {
         korvane.state().setSelectedModule(CleanerModule::duplicates);
         auto* scan = korvane.mainWindow()->property("viewModel").value<ContentViewModel*>()->scan();
@@ -123,12 +70,7 @@ int main(int argc, char* argv[])
         scan->start(std::make_shared<SetsScanner>(sets));
         QTimer::singleShot(3000, &application, [&] {
             application.report("showing");
-            QQuickItem* list = korvane.mainWindow()->contentItem();
-            do
-                list = list->nextItemInFocusChain();
-            while (!list->inherits("QQuickListView"));
-            list->forceActiveFocus(Qt::TabFocusReason);
-            journey.begin(list);
+            journey.begin();
         });
     });
     return WatchedApplication::exec();

@@ -13,13 +13,14 @@ if [ "$(uname -s)" = Darwin ]; then
 fi
 
 mkdir "$place/a" "$place/b"
-scripts/demo-home "$place/a/home" --small
-scripts/demo-home "$place/b/home" --small
+scripts/demo-home "$place/a/home" --small --applications 3
+scripts/demo-home "$place/b/home" --small --applications 3
 [ "$(listing "$place/a/home")" = "$(listing "$place/b/home")" ] || fail "two demo homes differ"
 
 for path in Library/Caches Library/Logs Library/Developer/Xcode/DerivedData Library/Developer/CoreSimulator/Caches \
     Library/LaunchAgents "Library/Application Support/MobileSync/Backup" .Trash .local/share/Trash/info .cache tmp \
     Applications/Fernglass.app/Contents/Info.plist Applications/Fernglass.app/Contents/Resources/AppIcon.icns \
+    "Applications/Cedar Notes 2.app/Contents/Info.plist" \
     Library/Containers/org.fernglass.Fernglass Documents Movies Pictures Projects/weather-garden/node_modules; do
     [ -e "$place/a/home/$path" ] || fail "no $path in the demo home"
 done
