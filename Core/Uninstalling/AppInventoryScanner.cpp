@@ -11,6 +11,7 @@
 #include "Platform/Checked.h"
 #include "Platform/DisplayText.h"
 #include "Platform/FileError.h"
+#include "Platform/MeasureAhead.h"
 
 #include <algorithm>
 #include <optional>
@@ -99,25 +100,27 @@ private:
     void addBundles(const std::filesystem::path& folder)
     {
         const auto own = m_host.applications->mainBundle();
-        for (const auto& child : visibleChildren(folder, *m_host.files)) {
+        auto bundles = visibleChildren(folder, *m_host.files);
+        const auto isOther = [&](const auto& child) { return !stemOfApplication(child) || leadsTo(own, child); };
+        bundles.erase(std::remove_if(bundles.begin(), bundles.end(), isOther), bundles.end());
+        MeasureAhead sizes(bundles, m_cancellation);
+        for (const auto& bundle : bundles) {
             m_cancellation.throwIfCancelled();
-            const auto stem = stemOfApplication(child);
-            if (stem && !leadsTo(own, child))
-                addBundle(child, *stem);
+            addBundle(bundle, sizes);
         }
     }
 
-    void addBundle(const std::filesystem::path& url, const std::string& stem)
+    void addBundle(const std::filesystem::path& url, MeasureAhead& sizes)
     {
         report(url);
-        const auto size = FileSizeCalculator::totalSize(url, m_cancellation);
+        const auto size = sizes.next();
         auto identifier = bundleIdentifier(url);
         std::vector<ScanItem> leftovers;
         if (identifier) {
             for (const auto& candidate : leftoverCandidates(*identifier, *m_host.files))
                 addIfNotEmpty(leftovers, { candidate, leftoverCategory(candidate) });
         }
-        add(InstalledApp(url, displayText(stem), std::move(identifier), size, std::move(leftovers)));
+        add(InstalledApp(url, displayText(*stemOfApplication(url)), std::move(identifier), size, std::move(leftovers)));
     }
 
     void addHostApplication(const HostApplication& application)
