@@ -3,10 +3,11 @@
 
 #include "UI/Symbols/SymbolImage.h"
 
+#include "UI/SvgImage.h"
+
 #include <QCache>
 #include <QDir>
 #include <QFile>
-#include <QPainter>
 #include <QSvgRenderer>
 
 namespace Korvane {
@@ -41,12 +42,7 @@ QImage drawn(const QString& name, int pixels)
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QSvgRenderer renderer(file.readAll());
-    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    renderer.render(&painter);
-    return image;
+    return svgImage(renderer, pixels);
 }
 
 } // namespace

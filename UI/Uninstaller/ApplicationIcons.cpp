@@ -4,6 +4,7 @@
 #include "UI/Uninstaller/ApplicationIcons.h"
 
 #include "Platform/ApplicationIcon.h"
+#include "UI/SvgImage.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -50,19 +51,6 @@ QImage centred(const QImage& picture, int pixels)
     return square;
 }
 
-QImage drawn(QSvgRenderer& renderer, int pixels)
-{
-    if (!renderer.isValid())
-        return {};
-    renderer.setAspectRatioMode(Qt::KeepAspectRatio);
-    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    renderer.render(&painter);
-    return image;
-}
-
 /// A picture of anybody's making, not yet decoded.
 struct Candidate {
     QByteArray data;
@@ -87,7 +75,7 @@ QImage decoded(const Candidate& candidate, int pixels)
 {
     if (!candidate.data.startsWith("\x89PNG")) {
         QSvgRenderer renderer(candidate.data);
-        return drawn(renderer, pixels);
+        return svgImage(renderer, pixels);
     }
     const QImage picture = QImage::fromData(candidate.data, "png");
     return picture.isNull() ? QImage() : centred(picture, pixels);
@@ -119,7 +107,7 @@ QImage iconAt(const std::vector<std::filesystem::path>& places, int pixels)
 QImage genericIcon(int pixels)
 {
     QSvgRenderer renderer(QStringLiteral(":/qt/qml/Korvane/UI/Uninstaller/GenericApplication.svg"));
-    return drawn(renderer, pixels);
+    return svgImage(renderer, pixels);
 }
 
 } // namespace
