@@ -42,7 +42,8 @@ public:
     Host host() const
     {
         const auto environment = Environment::inFolder(m_root);
-        return { environment, makeFileManager(environment), nullptr, nullptr, makeApplicationCatalog(environment, {}) };
+        return { environment, makeFileManager(environment), nullptr, nullptr, makeApplicationCatalog(environment, {}),
+            nullptr };
     }
 
 private:

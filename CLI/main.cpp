@@ -20,7 +20,7 @@ Korvane::Host hostOfThisMachine()
     const auto environment = Korvane::Environment::current();
     // No preferences: nothing that the command line does depends on one.
     return { environment, Korvane::makeFileManager(environment), Korvane::makeWorkspace(environment), nullptr,
-        Korvane::makeApplicationCatalog(environment) };
+        Korvane::makeApplicationCatalog(environment), Korvane::makeProcessRunner() };
 }
 
 } // namespace

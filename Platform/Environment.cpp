@@ -9,8 +9,10 @@
 #include <cerrno>
 #include <cstdlib>
 #include <pwd.h>
+#include <sstream>
 #include <string>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace Korvane {
@@ -42,6 +44,19 @@ std::optional<std::filesystem::path> baseDirectory(const char* name)
     return path;
 }
 
+/// The absolute ones among the paths that a variable names with colons between them.
+std::vector<std::filesystem::path> absolutePathsIn(const char* name)
+{
+    const char* value = std::getenv(name);
+    std::istringstream names(value != nullptr ? value : "");
+    std::vector<std::filesystem::path> paths;
+    for (std::string path; std::getline(names, path, ':');) {
+        if (path.starts_with('/'))
+            paths.emplace_back(withoutTrailingSlashes(path));
+    }
+    return paths;
+}
+
 } // namespace
 
 std::filesystem::path absolutePathVariable(const char* name)
@@ -63,6 +78,9 @@ Environment Environment::current()
     environment.xdgConfigHome = baseDirectory("XDG_CONFIG_HOME");
     environment.xdgDataHome = baseDirectory("XDG_DATA_HOME");
     environment.xdgStateHome = baseDirectory("XDG_STATE_HOME");
+    if (auto folders = absolutePathsIn("XDG_CONFIG_DIRS"); !folders.empty())
+        environment.xdgConfigDirs = std::move(folders);
+    environment.userId = ::getuid();
     return environment;
 }
 
@@ -72,6 +90,12 @@ Environment Environment::inFolder(const std::filesystem::path& folder)
     environment.home = folder / "home";
     environment.temporaryDirectory = folder / "tmp";
     environment.applicationsDirectory = folder / "Applications";
+    environment.scriptInterpreter = folder / "bin/osascript";
+    environment.serviceManager = folder / "bin/launchctl";
+    environment.machineLibrary = folder / "Library";
+    environment.programFolders = { folder / "bin" };
+    environment.xdgConfigDirs = { folder / "xdg" };
+    environment.userId = ::getuid();
     std::filesystem::create_directories(environment.home);
     std::filesystem::create_directories(environment.temporaryDirectory);
     return environment;

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <vector>
 
 namespace Korvane {
 
@@ -23,6 +24,19 @@ struct Environment {
     /// Where applications are installed for all users: the platform's "/Applications", whether it is there or not.
     std::filesystem::path applicationsDirectory = "/Applications";
 
+    /// What runs scripts with an administrator's rights after asking for the password; macOS has it.
+    std::filesystem::path scriptInterpreter = "/usr/bin/osascript";
+    /// What starts background items and stops them; macOS has it.
+    std::filesystem::path serviceManager = "/bin/launchctl";
+    /// Where background items of all users lie: the platform's "/Library", whether it is there or not.
+    std::filesystem::path machineLibrary = "/Library";
+    /// Where the host's own programs for maintenance are looked for, the first folder first.
+    std::vector<std::filesystem::path> programFolders = { "/usr/bin", "/bin", "/usr/local/bin" };
+    /// XDG_CONFIG_DIRS without its relative entries; "/etc/xdg" when it names none. The first counts most.
+    std::vector<std::filesystem::path> xdgConfigDirs = { "/etc/xdg" };
+    /// The number of this user.
+    unsigned int userId = 0;
+
     /// XDG base directories of freedesktop.org, version 0.8; a relative value counts as absent.
     std::optional<std::filesystem::path> xdgCacheHome;
     std::optional<std::filesystem::path> xdgConfigHome;
@@ -33,7 +47,9 @@ struct Environment {
     static Environment current();
 
     /// A home of its own under `folder` ("home" and "tmp" in it), with no XDG overrides; creates both folders. The
-    /// applications of all users are those in "Applications" beside them, which is not created.
+    /// applications of all users are those in "Applications" beside them, their background items those in "Library" and
+    /// "xdg"; the programs of this system are those in "bin", "osascript" and "launchctl" among them. None of these is
+    /// created.
     /// Throws std::filesystem::filesystem_error when they cannot be made.
     static Environment inFolder(const std::filesystem::path& folder);
 

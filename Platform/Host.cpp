@@ -8,7 +8,7 @@ namespace Korvane {
 Host makeHost(const Environment& environment)
 {
     return { environment, makeFileManager(environment), makeWorkspace(environment), makeUserDefaults(environment),
-        makeApplicationCatalog(environment) };
+        makeApplicationCatalog(environment), makeProcessRunner() };
 }
 
 } // namespace Korvane

@@ -6,6 +6,7 @@
 #include "Platform/ApplicationCatalog.h"
 #include "Platform/Environment.h"
 #include "Platform/FileManager.h"
+#include "Platform/ProcessRunner.h"
 #include "Platform/UserDefaults.h"
 #include "Platform/Workspace.h"
 
@@ -22,6 +23,7 @@ struct Host {
     std::shared_ptr<Workspace> workspace;
     std::shared_ptr<UserDefaults> defaults;
     std::shared_ptr<ApplicationCatalog> applications;
+    std::shared_ptr<ProcessRunner> processes;
 };
 
 /// The host of this machine in the places of `environment`.

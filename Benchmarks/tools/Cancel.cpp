@@ -92,7 +92,7 @@ Korvane::Host hostWith(const std::filesystem::path& home, const std::filesystem:
     environment.home = home;
     environment.temporaryDirectory = home / "tmp";
     environment.xdgCacheHome = caches;
-    return { environment, Korvane::makeFileManager(environment), Korvane::makeWorkspace(environment), nullptr,
+    return { environment, Korvane::makeFileManager(environment), Korvane::makeWorkspace(environment), nullptr, nullptr,
         nullptr };
 }
 

@@ -17,7 +17,7 @@ int main(int count, char** arguments)
     environment.home = arguments[1];
     environment.applicationsDirectory = environment.home / "no applications of all users";
     const Korvane::Host host{ environment, Korvane::makeFileManager(environment), nullptr, nullptr,
-        Korvane::makeApplicationCatalog(environment, {}) };
+        Korvane::makeApplicationCatalog(environment, {}), nullptr };
     std::int64_t total = 0;
     for (const auto& app : Korvane::AppInventoryScanner().scanApps(host, [](const Korvane::ScanProgress&) {}))
         total = Korvane::checkedAdd(total, app.totalSize());

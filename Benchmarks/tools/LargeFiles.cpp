@@ -19,7 +19,7 @@ int main(int count, char** arguments)
         return 2;
     Korvane::Environment environment;
     environment.home = arguments[1];
-    const Korvane::Host host{ environment, Korvane::makeFileManager(environment), nullptr, nullptr, nullptr };
+    const Korvane::Host host{ environment, Korvane::makeFileManager(environment), nullptr, nullptr, nullptr, nullptr };
     const Korvane::LargeFilesScanner scanner(std::atoll(arguments[2]), std::numeric_limits<std::int64_t>::max());
     std::int64_t total = 0;
     for (const auto& item : scanner.scan(host, [](const Korvane::ScanProgress&) {}, {}))

@@ -105,7 +105,7 @@ TEST_F(ProgramCleanTest, CancelLetsTheItemAtHandBeFinished)
         if (files->removed().size() == 2)
             cancellation.cancel();
     };
-    Program program({ environment, files, std::make_shared<TestWorkspace>(), nullptr, nullptr }, cancellation);
+    Program program({ environment, files, std::make_shared<TestWorkspace>(), nullptr, nullptr, nullptr }, cancellation);
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
     const auto status = program.run({ "clean", "systemJunk", "--delete", "--yes", "--json" });

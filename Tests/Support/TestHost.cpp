@@ -12,7 +12,7 @@ TestHost makeTestHost(const TemporaryFolder& folder)
     const auto environment = Environment::inFolder(folder.path());
     auto workspace = std::make_shared<TestWorkspace>();
     Host host{ environment, makeTestFileManager(environment), workspace, makeUserDefaults(environment),
-        makeApplicationCatalog(environment, { folder / "bin" }) };
+        makeApplicationCatalog(environment, { folder / "bin" }), makeProcessRunner() };
     return { std::move(host), std::move(workspace) };
 }
 
