@@ -30,8 +30,9 @@ struct Environment {
     std::filesystem::path serviceManager = "/bin/launchctl";
     /// Where background items of all users lie: the platform's "/Library", whether it is there or not.
     std::filesystem::path machineLibrary = "/Library";
-    /// Where the host's own programs for maintenance are looked for, the first folder first.
-    std::vector<std::filesystem::path> programFolders = { "/usr/bin", "/bin", "/usr/local/bin" };
+    /// Where the host's own programs for maintenance are looked for, the first folder first; only an administrator may
+    /// write there, for some are run with an administrator's rights.
+    std::vector<std::filesystem::path> programFolders = { "/usr/bin", "/bin", "/usr/sbin", "/sbin" };
     /// XDG_CONFIG_DIRS without its relative entries; "/etc/xdg" when it names none. The first counts most.
     std::vector<std::filesystem::path> xdgConfigDirs = { "/etc/xdg" };
     /// The number of this user.

@@ -5,6 +5,7 @@
 
 #include "Platform/UserLocale.h"
 
+#include <cstdint>
 #include <memory>
 
 #include <unicode/coll.h>
@@ -67,6 +68,22 @@ bool containsLetters(const icu::UnicodeString& text, const icu::UnicodeString& p
     return false;
 }
 
+/// Bytes that compare as the collator compares the texts; without one, as their characters do.
+std::string orderingKey(const icu::UnicodeString& text, const icu::Collator* collator)
+{
+    std::string key;
+    if (collator == nullptr)
+        return text.toUTF8String(key);
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(text.length()) * 4 + 16);
+    auto length = collator->getSortKey(text, bytes.data(), static_cast<std::int32_t>(bytes.size()));
+    if (static_cast<std::size_t>(length) > bytes.size()) {
+        bytes.resize(static_cast<std::size_t>(length));
+        length = collator->getSortKey(text, bytes.data(), length);
+    }
+    key.assign(bytes.begin(), bytes.begin() + length);
+    return key;
+}
+
 } // namespace
 
 bool localizedCaseInsensitiveContains(std::string_view text, std::string_view part)
@@ -94,6 +111,23 @@ bool localizedCaseInsensitiveContains(std::string_view text, std::string_view pa
     icu::StringSearch search(pattern, searched, rules, nullptr, error);
     const auto found = search.first(error);
     return U_SUCCESS(error) && found != USEARCH_DONE;
+}
+
+std::vector<std::string> localizedCaseInsensitiveKeys(const std::vector<std::string_view>& texts)
+{
+    return localizedCaseInsensitiveKeys(texts, userLocaleName());
+}
+
+std::vector<std::string> localizedCaseInsensitiveKeys(
+    const std::vector<std::string_view>& texts, const std::string& locale)
+{
+    const auto language = readersLocale(locale);
+    const auto collator = searchCollator(language);
+    std::vector<std::string> keys;
+    keys.reserve(texts.size());
+    for (const auto text : texts)
+        keys.push_back(orderingKey(folded(text, language), collator.get()));
+    return keys;
 }
 
 } // namespace Korvane

@@ -19,16 +19,9 @@ public:
     ///
     /// Sorted by label as the user's language does without regard to case; equal labels stay in the order of
     /// discovery. Every file gives one item, whatever it says: one that cannot be read, is no property list or is
-    /// larger than `largestFile` has the label of its name and no program. Folders that cannot be listed are left
+    /// too large (ReadingBudget) has the label of its name and no program. Folders that cannot be listed are left
     /// out. Off the main thread. Throws CancellationError when cancelled, and nothing else.
     std::vector<LaunchAgent> scan(const Host& host, const Cancellation& cancellation = {}) const;
-
-    /// The largest property list that is read, in bytes: those that start programs have a few thousand.
-    static constexpr std::size_t largestFile = std::size_t{ 1024 } * 1024;
-    /// How many bytes of lists larger than `smallFile` one scan reads, so that many large ones do not stall it.
-    static constexpr std::size_t largeFilesBudget = std::size_t{ 64 } * 1024 * 1024;
-    /// Lists up to this size are read however many there are, in bytes.
-    static constexpr std::size_t smallFile = std::size_t{ 64 } * 1024;
 
 private:
     class Scan;

@@ -4,22 +4,16 @@
 #include "Platform/Applications/Flatpaks.h"
 
 #include "Platform/FileError.h"
+#include "Platform/Processes/InstalledProgram.h"
 
 #include <algorithm>
 #include <map>
 #include <sstream>
 #include <string>
 #include <system_error>
-#include <unistd.h>
 
 namespace Korvane {
 namespace {
-
-bool isProgram(const std::filesystem::path& file)
-{
-    std::error_code error;
-    return std::filesystem::is_regular_file(file, error) && ::access(file.c_str(), X_OK) == 0;
-}
 
 bool isElementCharacter(char character)
 {
@@ -65,14 +59,12 @@ Flatpaks::Flatpaks(const Environment& environment, const std::vector<std::filesy
 
 Flatpaks::Flatpaks(
     const Environment& environment, const std::vector<std::filesystem::path>& programFolders, TimeLimits timeLimits)
-    : m_installation(environment.dataHome() / "flatpak")
+    : m_tool(installedProgram(programFolders, "flatpak"))
+    , m_installation(environment.dataHome() / "flatpak")
     , m_variables({ { "HOME", environment.home.native() }, { "XDG_DATA_HOME", environment.dataHome().native() },
           { "FLATPAK_USER_DIR", m_installation.native() } })
     , m_timeLimits(timeLimits)
 {
-    for (const auto& folder : programFolders)
-        if (m_tool.empty() && isProgram(folder / "flatpak"))
-            m_tool = folder / "flatpak";
 }
 
 ChildProcess Flatpaks::call(std::vector<std::string> arguments, std::chrono::milliseconds timeLimit) const

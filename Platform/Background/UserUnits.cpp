@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Platform/Background/UserUnits.h"
+
+#include "Platform/Background/FolderNames.h"
+#include "Platform/DisplayText.h"
+#include "Platform/TrimmedText.h"
+
+#include <algorithm>
+#include <array>
+#include <system_error>
+#include <utility>
+
+namespace Korvane {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+/// The kinds that can be enabled, and the folders of links by which they are (systemd.unit(5)).
+constexpr std::array unitKinds{ ".service"sv, ".socket"sv, ".timer"sv, ".path"sv, ".target"sv, ".mount"sv,
+    ".automount"sv, ".swap"sv, ".slice"sv };
+constexpr std::array linkFolders{ ".wants"sv, ".requires"sv, ".upholds"sv };
+
+template <typename Endings> bool endsWithOneOf(std::string_view name, const Endings& endings)
+{
+    return std::any_of(endings.begin(), endings.end(),
+        [&](std::string_view ending) { return name.size() > ending.size() && name.ends_with(ending); });
+}
+
+bool isUnitCharacter(char character)
+{
+    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z')
+        || (character >= '0' && character <= '9') || ":-_.\\@"sv.find(character) != std::string_view::npos;
+}
+
+/// Whether systemd takes this name for a unit, and nobody takes it for an option.
+bool isUnitName(std::string_view name)
+{
+    constexpr std::size_t longest = 255;
+    return name.size() <= longest && !name.starts_with('-') && endsWithOneOf(name, unitKinds)
+        && std::all_of(name.begin(), name.end(), isUnitCharacter);
+}
+
+/// "name@.service" of "name@instance.service"; empty for what is no instance.
+std::string templateOf(const std::string& name)
+{
+    const auto at = name.find('@');
+    const auto dot = name.rfind('.');
+    if (at == std::string::npos || dot == std::string::npos || dot <= at + 1)
+        return {};
+    return name.substr(0, at + 1) + name.substr(dot);
+}
+
+/// Takes the first word off a command line, in quotes or not.
+std::string firstWord(std::string_view line)
+{
+    line = trimmedText(line);
+    const char quote = line.empty() ? '\0' : line.front();
+    if (quote == '"' || quote == '\'')
+        return std::string(line.substr(1, line.find(quote, 1) - 1));
+    return std::string(line.substr(0, line.find_first_of(" \t")));
+}
+
+} // namespace
+
+std::optional<std::string> programOfUnit(std::string_view text)
+{
+    constexpr auto key = "ExecStart"sv;
+    bool isInGroup = false;
+    while (!text.empty()) {
+        const auto end = text.find('\n');
+        const auto line = trimmedText(text.substr(0, end));
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+        if (line.starts_with('['))
+            isInGroup = line == "[Service]";
+        const auto equals = line.find('=');
+        if (!isInGroup || equals == std::string_view::npos || trimmedText(line.substr(0, equals)) != key)
+            continue;
+        auto command = trimmedText(line.substr(equals + 1));
+        command.remove_prefix(std::min(command.find_first_not_of("@-:+!"), command.size()));
+        if (auto word = firstWord(command); !word.empty())
+            return displayText(std::string_view(word));
+    }
+    return std::nullopt;
+}
+
+UserUnits::UserUnits(std::vector<std::filesystem::path> folders, const Cancellation& cancellation)
+    : m_folders(std::move(folders))
+    , m_cancellation(cancellation)
+{
+    for (const auto& folder : m_folders)
+        readLinks(folder);
+}
+
+void UserUnits::readLinks(const std::filesystem::path& folder)
+{
+    for (const auto& name : namesInFolder(folder, m_cancellation)) {
+        if (endsWithOneOf(name, linkFolders)) {
+            for (const auto& enabled : namesInFolder(folder / name, m_cancellation))
+                addEnabled(enabled);
+            continue;
+        }
+        // An alias: a link beside the unit that it names.
+        std::error_code error;
+        const auto target = std::filesystem::read_symlink(folder / name, error);
+        const bool isBeside = !target.has_parent_path() || target.parent_path() == folder;
+        if (!error && isBeside && target.filename() != name)
+            addEnabled(target.filename().native());
+    }
+}
+
+void UserUnits::addEnabled(const std::string& name)
+{
+    m_enabledNames.insert(name);
+    m_enabledTemplates.insert(templateOf(name));
+}
+
+std::vector<std::filesystem::path> UserUnits::enabled() const
+{
+    std::vector<std::filesystem::path> units;
+    std::set<std::string> seen;
+    for (const auto& folder : m_folders) {
+        for (const auto& name : namesInFolder(folder, m_cancellation)) {
+            m_cancellation.throwIfCancelled();
+            std::error_code error;
+            // What is masked is a link to a device, what is a folder no unit.
+            const bool isFile = std::filesystem::is_regular_file(folder / name, error);
+            const bool isEnabled = m_enabledNames.contains(name) || m_enabledTemplates.contains(name);
+            if (isUnitName(name) && seen.insert(name).second && isFile && isEnabled)
+                units.push_back(folder / name);
+        }
+    }
+    return units;
+}
+
+std::vector<std::string> UserUnits::runningNames(const std::filesystem::path& unit) const
+{
+    const auto name = unit.filename().native();
+    std::vector<std::string> names;
+    for (const auto& enabled : m_enabledNames) {
+        if (templateOf(enabled) == name && isUnitName(enabled))
+            names.push_back(enabled);
+    }
+    return names.empty() ? std::vector<std::string>{ name } : names;
+}
+
+} // namespace Korvane

@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "Platform/HostMaintenance.h"
+
+#include "Platform/DisplayText.h"
+#include "Platform/Processes/InstalledProgram.h"
+#include "Platform/TrimmedText.h"
+
+#include <array>
+#include <string_view>
+#include <utility>
+
+namespace Korvane {
+
+namespace {
+
+constexpr const char* administratorTool = "pkexec";
+/// The statuses of pkexec(1): the user dismissed the dialog, and any other reason for which it did not run the program.
+constexpr int dismissed = 126;
+constexpr int notAuthorized = 127;
+
+constexpr const char* nothingToFlush = "There is nothing to flush: this machine keeps no DNS cache";
+
+ChildProcess call(std::filesystem::path program, std::vector<std::string> arguments)
+{
+    ChildProcess process;
+    process.program = std::move(program);
+    process.arguments = std::move(arguments);
+    return process;
+}
+
+/// Only the desktop is to ask: the tool's own question on a terminal would wait for ever in a group of its own.
+ChildProcess privileged(
+    const std::filesystem::path& tool, const std::filesystem::path& program, std::vector<std::string> arguments)
+{
+    arguments.insert(arguments.begin(), { "--disable-internal-agent", program.native() });
+    return call(tool, std::move(arguments));
+}
+
+HostMeans missing(std::string text) { return { {}, std::move(text) }; }
+
+HostMeans withoutAdministrator() { return missing("pkexec is missing, which asks for an administrator's password"); }
+
+/// What was changed is written to the disk first, so that its memory can be given back too.
+HostMeans pageCacheMeans(const std::vector<std::filesystem::path>& folders, const std::filesystem::path& administrator)
+{
+    const auto sync = installedProgram(folders, "sync");
+    const auto sysctl = installedProgram(folders, "sysctl");
+    if (sync.empty() || sysctl.empty())
+        return missing(std::string(sync.empty() ? "sync" : "sysctl") + " is missing, which frees memory");
+    if (administrator.empty())
+        return withoutAdministrator();
+    // The page cache alone is 1 (proc_sys_vm(5), drop_caches).
+    return { { call(sync, {}), privileged(administrator, sysctl, { "-q", "vm.drop_caches=1" }) }, {} };
+}
+
+HostMeans resolverMeans(const std::vector<std::filesystem::path>& folders, const std::filesystem::path& administrator)
+{
+    const auto resolver = installedProgram(folders, "resolvectl");
+    if (resolver.empty())
+        return missing(nothingToFlush);
+    if (administrator.empty())
+        return withoutAdministrator();
+    return { { privileged(administrator, resolver, { "flush-caches" }) }, {} };
+}
+
+/// The search of GNOME, under both its names, then that of KDE.
+HostMeans searchIndexMeans(const std::vector<std::filesystem::path>& folders)
+{
+    for (const char* const name : { "localsearch", "tracker3" }) {
+        if (const auto tool = installedProgram(folders, name); !tool.empty())
+            return { { call(tool, { "reset", "--filesystem" }), call(tool, { "daemon", "--start" }) }, {} };
+    }
+    for (const char* const name : { "balooctl6", "balooctl" }) {
+        if (const auto tool = installedProgram(folders, name); !tool.empty())
+            return { { call(tool, { "purge" }) }, {} };
+    }
+    return missing("No search index is installed (localsearch, tracker3 or balooctl)");
+}
+
+/// What a program that failed has to say for itself, on one line; empty when nothing.
+std::string complaint(const ChildResult& result)
+{
+    const auto text = trimmedText(result.errorOutput.text);
+    return displayText(text.empty() ? trimmedText(result.output.text) : text);
+}
+
+bool says(const std::string& text, std::string_view words) { return text.find(words) != std::string::npos; }
+
+/// Its texts are never translated.
+std::optional<std::string> refusal(const ChildResult& result, const std::string& text)
+{
+    if (result.exitStatus == dismissed)
+        return "The request for an administrator's password was dismissed; nothing was changed";
+    if (result.exitStatus != notAuthorized)
+        return std::nullopt;
+    if (says(text, "Not authorized"))
+        return "An administrator's rights were not given; nothing was changed";
+    if (text.empty() || says(text, "No authentication agent found"))
+        return "No program that asks for an administrator's password is running (a polkit agent); nothing was changed";
+    return "An administrator's password could not be asked for: " + text;
+}
+
+} // namespace
+
+std::optional<HostMeans> hostMeans(HostTask task, const Environment& environment)
+{
+    const auto& folders = environment.programFolders;
+    const auto administrator = installedProgram(folders, administratorTool);
+    switch (task) {
+    case HostTask::DropPageCache:
+        return pageCacheMeans(folders, administrator);
+    case HostTask::FlushResolver:
+        return resolverMeans(folders, administrator);
+    case HostTask::RebuildSearchIndex:
+        return searchIndexMeans(folders);
+    }
+    return std::nullopt;
+}
+
+std::string hostFailure(const ChildProcess& step, const ChildResult& result)
+{
+    const auto text = complaint(result);
+    if (step.program.filename() == administratorTool) {
+        if (auto reason = refusal(result, text))
+            return *reason;
+        // The resolver's tool is there, but not the service that it talks to.
+        if (says(text, "org.freedesktop.resolve1"))
+            return nothingToFlush;
+    }
+    if (!text.empty())
+        return "The command failed: " + text;
+    if (result.signal)
+        return "The command was ended by signal " + std::to_string(*result.signal);
+    return "The command failed with status " + std::to_string(result.exitStatus.value_or(0));
+}
+
+} // namespace Korvane
