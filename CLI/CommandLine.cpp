@@ -7,6 +7,7 @@
 #include "Platform/DisplayText.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace Korvane {
@@ -16,7 +17,8 @@ namespace {
 using Command = CommandLine::Command;
 using Selection = CommandLine::Selection;
 
-constexpr std::string_view commands = "one of: modules, scan, clean, apps, uninstall, --help, --version";
+constexpr std::string_view commands = "one of: modules, scan, clean, apps, uninstall, maintenance, agents, "
+                                      "--help, --version";
 constexpr std::string_view itemOption = "--item";
 constexpr std::string_view itemAssignment = "--item=";
 
@@ -68,6 +70,10 @@ private:
     {
         if (m_result.command == Command::Uninstall && !m_hasSubject)
             throw UsageError("the path or the identifier of an application is missing; 'korvane-cli apps' lists them");
+        if (m_result.command == Command::RunTask && !m_hasSubject)
+            throw UsageError("a task is missing; one of: " + maintenanceTasks());
+        if (m_result.command == Command::RemoveAgent && !m_hasSubject)
+            throw UsageError("the path of a background item is missing; 'korvane-cli agents' lists them");
         const bool takesModule = m_result.command == Command::Scan || m_result.command == Command::Clean;
         if (takesModule && !m_hasSubject)
             throw UsageError("a module is missing; one of: " + scannableModules());
@@ -81,32 +87,34 @@ private:
 
     void readCommand()
     {
+        using Named = std::pair<std::string_view, Command>;
+        static constexpr std::array names{ Named{ "modules", Command::Modules }, Named{ "scan", Command::Scan },
+            Named{ "clean", Command::Clean }, Named{ "apps", Command::Apps }, Named{ "uninstall", Command::Uninstall },
+            Named{ "maintenance", Command::Maintenance }, Named{ "agents", Command::Agents } };
         const auto& command = m_arguments[m_next++];
-        if (command == "modules")
-            m_result.command = Command::Modules;
-        else if (command == "scan")
-            m_result.command = Command::Scan;
-        else if (command == "clean")
-            m_result.command = Command::Clean;
-        else if (command == "apps")
-            m_result.command = Command::Apps;
-        else if (command == "uninstall")
-            m_result.command = Command::Uninstall;
-        else
+        const auto found
+            = std::find_if(names.begin(), names.end(), [&](const Named& named) { return named.first == command; });
+        if (found == names.end())
             throw UsageError(
                 "unknown command '" + displayText(std::string_view(command)) + "'; " + std::string(commands));
+        m_result.command = found->second;
     }
 
     void readArgument(const std::string& argument)
     {
         if (argument == "--json")
             m_result.format = CommandLine::Format::Json;
-        else if (argument == "--yes" && m_result.command == Command::Uninstall)
+        else if (argument == "--yes" && takesYesAlone())
             m_result.confirmation = CommandLine::Confirmation::Given;
         else if (startsWith(argument, "-"))
             readCleanOption(argument);
         else
             readSubject(argument);
+    }
+
+    bool takesYesAlone() const
+    {
+        return m_result.command == Command::Uninstall || m_result.command == Command::RemoveAgent;
     }
 
     void readCleanOption(const std::string& option)
@@ -117,7 +125,8 @@ private:
                 "unknown option '" + displayText(std::string_view(option)) + "'; --help lists the options there are");
         if (m_result.command != Command::Clean)
             throw UsageError("option '" + option.substr(0, option.find('=')) + "' belongs to "
-                + (option == "--yes" ? "the commands 'clean' and 'uninstall' only" : "the command 'clean' only"));
+                + (option == "--yes" ? "the commands 'clean', 'uninstall' and 'agents remove' only"
+                                     : "the command 'clean' only"));
         if (option == "--delete")
             m_result.removal = CommandLine::Removal::Delete;
         else if (option == "--yes")
@@ -152,11 +161,46 @@ private:
         const bool takesNone = m_result.command == Command::Modules || m_result.command == Command::Apps;
         if (m_hasSubject || takesNone)
             requireNothingBehind(m_next - 1);
-        if (m_result.command == Command::Uninstall)
-            m_result.application = argument;
-        else
-            readModule(argument);
         m_hasSubject = true;
+        switch (m_result.command) {
+        case Command::Uninstall:
+            m_result.application = argument;
+            break;
+        case Command::Maintenance:
+        case Command::Agents:
+            readAction(argument);
+            break;
+        case Command::RunTask:
+            readTask(argument);
+            break;
+        case Command::RemoveAgent:
+            m_result.agent = argument;
+            break;
+        default:
+            readModule(argument);
+        }
+    }
+
+    /// What is to be done with maintenance tasks or background items; all but listing needs a subject of its own.
+    void readAction(const std::string& action)
+    {
+        const bool isMaintenance = m_result.command == Command::Maintenance;
+        if (action == "list")
+            return;
+        if (action != (isMaintenance ? "run" : "remove"))
+            throw UsageError("unknown action '" + displayText(std::string_view(action))
+                + (isMaintenance ? "'; one of: list, run" : "'; one of: list, remove"));
+        m_result.command = isMaintenance ? Command::RunTask : Command::RemoveAgent;
+        m_hasSubject = false;
+    }
+
+    void readTask(const std::string& name)
+    {
+        const auto task = maintenanceTask(name);
+        if (!task)
+            throw UsageError(
+                "unknown task '" + displayText(std::string_view(name)) + "'; one of: " + maintenanceTasks());
+        m_result.task = *task;
     }
 
     void readModule(const std::string& name)
@@ -188,9 +232,13 @@ std::string_view usageText()
            "  korvane-cli clean MODULE [--all | --item PATH ...] [--delete] [--yes] [--json]\n"
            "  korvane-cli apps [--json]\n"
            "  korvane-cli uninstall PATH-OR-ID [--yes] [--json]\n"
+           "  korvane-cli maintenance [list | run TASK] [--json]\n"
+           "  korvane-cli agents [--json]\n"
+           "  korvane-cli agents remove PATH [--yes] [--json]\n"
            "  korvane-cli --help | --version\n"
            "\n"
-           "MODULE is systemJunk, largeFiles or duplicates.\n"
+           "MODULE is systemJunk, largeFiles or duplicates. TASK is freeRAM, flushDNS or\n"
+           "reindexSpotlight.\n"
            "\n"
            "scan shows what could be cleaned, and changes nothing. clean scans, then takes the\n"
            "pre-selected findings, and without --yes only says what it would do.\n"
@@ -198,6 +246,11 @@ std::string_view usageText()
            "apps lists the installed applications with what each has left behind. uninstall moves\n"
            "one of them, named by its path or its identifier, with all of that to the Trash; it\n"
            "refuses an application that is running, and without --yes only says what it would do.\n"
+           "\n"
+           "maintenance lists the tasks, and which of them can be run here; run does one, for which\n"
+           "the system may ask for an administrator's password. agents lists what starts by itself.\n"
+           "remove stops one item of the user's own and moves its file to the Trash, and without\n"
+           "--yes only says what it would do.\n"
            "\n"
            "  --all        take all findings, also those that may be in use or needed\n"
            "  --item PATH  take this finding; may be given more than once\n"
@@ -222,6 +275,16 @@ std::string scannableModules()
             continue;
         names += names.empty() ? "" : ", ";
         names += rawValue(module);
+    }
+    return names;
+}
+
+std::string maintenanceTasks()
+{
+    std::string names;
+    for (const auto task : allMaintenanceTasks) {
+        names += names.empty() ? "" : ", ";
+        names += rawValue(task);
     }
     return names;
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Core/Maintenance/MaintenanceTask.h"
 #include "Core/Modules.h"
 
 #include <filesystem>
@@ -14,12 +15,24 @@ namespace Korvane {
 
 /// What one start of korvane-cli is asked to do.
 struct CommandLine {
-    enum class Command { Help, Version, Modules, Scan, Clean, Apps, Uninstall };
+    enum class Command {
+        Help,
+        Version,
+        Modules,
+        Scan,
+        Clean,
+        Apps,
+        Uninstall,
+        Maintenance,
+        RunTask,
+        Agents,
+        RemoveAgent
+    };
     enum class Format { Text, Json };
     /// Which findings are cleaned: those that a scan ticks by itself, all, or those named.
     enum class Selection { Preselected, All, Named };
     enum class Removal { MoveToTrash, Delete };
-    /// Whether cleaning or uninstalling happens, or is only described.
+    /// Whether cleaning, uninstalling or removing happens, or is only described.
     enum class Confirmation { Missing, Given };
 
     Command command = Command::Help;
@@ -30,6 +43,8 @@ struct CommandLine {
     Removal removal = Removal::MoveToTrash;
     Confirmation confirmation = Confirmation::Missing;
     std::string application; ///< Of Uninstall: a path or an identifier, any bytes, as given.
+    MaintenanceTask task = MaintenanceTask::FreeRAM; ///< Of RunTask.
+    std::string agent; ///< Of RemoveAgent: the path of a background item, any bytes, as given.
 
     /// Reads the arguments behind the program's name. Throws UsageError.
     static CommandLine parse(const std::vector<std::string>& arguments);
@@ -43,5 +58,8 @@ bool isScannable(CleanerModule module);
 
 /// The raw values of the modules that can be scanned, separated by ", ".
 std::string scannableModules();
+
+/// The raw values of the maintenance tasks, separated by ", ".
+std::string maintenanceTasks();
 
 } // namespace Korvane

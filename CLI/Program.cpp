@@ -3,6 +3,7 @@
 
 #include "CLI/Program.h"
 
+#include "CLI/MaintenanceReports.h"
 #include "CLI/Reports.h"
 #include "CLI/StandardStreams.h"
 #include "CLI/TerminalProgress.h"
@@ -96,6 +97,15 @@ ExitStatus Program::runCommand(const CommandLine& line)
         return listApps(line);
     case Command::Uninstall:
         return uninstall(line);
+    case Command::Maintenance:
+        print(isJson ? tasksAsJson(m_host) : tasksAsText(m_host));
+        return ExitStatus::Done;
+    case Command::RunTask:
+        return runTask(line);
+    case Command::Agents:
+        return listAgents(line);
+    case Command::RemoveAgent:
+        return removeAgent(line);
     }
     return ExitStatus::WrongUse;
 }

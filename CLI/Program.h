@@ -29,6 +29,9 @@ private:
     ExitStatus clean(const CommandLine& line);
     ExitStatus listApps(const CommandLine& line) const;
     ExitStatus uninstall(const CommandLine& line) const;
+    ExitStatus runTask(const CommandLine& line) const;
+    ExitStatus listAgents(const CommandLine& line) const;
+    ExitStatus removeAgent(const CommandLine& line) const;
 
     std::vector<ScanItem> scan(CleanerModule module) const;
     SharedStorageOfItems sharedStorage(CleanerModule module, const std::vector<ScanItem>& items) const;
@@ -37,6 +40,7 @@ private:
     Cleaner::Result cleanEach(const std::vector<ScanItem>& items, CommandLine::Removal removal);
 
     void print(const std::string& text) const;
+    void tell(const std::string& outcome, ExitStatus status) const;
 
     Host m_host;
     Cancellation m_cancellation;

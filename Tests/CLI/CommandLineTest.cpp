@@ -80,11 +80,11 @@ TEST(CommandLineTest, ItemsAreTakenAsBytesAsTheyAreGiven)
 
 TEST(CommandLineTest, CommandHasToBeKnown)
 {
-    EXPECT_EQ(complaint({}), "a command is missing; one of: modules, scan, clean, apps, uninstall, --help, --version");
-    EXPECT_EQ(complaint({ "Scan" }),
-        "unknown command 'Scan'; one of: modules, scan, clean, apps, uninstall, --help, --version");
-    EXPECT_EQ(complaint({ "--json" }),
-        "unknown command '--json'; one of: modules, scan, clean, apps, uninstall, --help, --version");
+    const std::string commands
+        = "one of: modules, scan, clean, apps, uninstall, maintenance, agents, --help, --version";
+    EXPECT_EQ(complaint({}), "a command is missing; " + commands);
+    EXPECT_EQ(complaint({ "Scan" }), "unknown command 'Scan'; " + commands);
+    EXPECT_EQ(complaint({ "--json" }), "unknown command '--json'; " + commands);
 }
 
 TEST(CommandLineTest, ModuleHasToBeGivenOnceAndKnown)
@@ -105,8 +105,9 @@ TEST(CommandLineTest, OptionsHaveToBeKnownAndInTheirPlace)
         complaint({ "scan", "systemJunk", "--force" }), "unknown option '--force'; --help lists the options there are");
     EXPECT_EQ(complaint({ "scan", "systemJunk", "--item=/a" }), "option '--item' belongs to the command 'clean' only");
     for (const char* option : { "--all", "--delete", "--yes", "--item" }) {
-        const std::string owner
-            = std::string(option) == "--yes" ? "the commands 'clean' and 'uninstall'" : "the command 'clean'";
+        const std::string owner = std::string(option) == "--yes"
+            ? "the commands 'clean', 'uninstall' and 'agents remove'"
+            : "the command 'clean'";
         EXPECT_EQ(complaint({ "scan", "systemJunk", option }),
             std::string("option '") + option + "' belongs to " + owner + " only");
     }
@@ -118,7 +119,8 @@ TEST(CommandLineTest, AppsTakesNothingButItsFormat)
     EXPECT_EQ(parse({ "apps" }).command, Command::Apps);
     EXPECT_EQ(parse({ "apps", "--json" }).format, Format::Json);
     EXPECT_EQ(complaint({ "apps", "systemJunk" }), "unexpected argument 'systemJunk'");
-    EXPECT_EQ(complaint({ "apps", "--yes" }), "option '--yes' belongs to the commands 'clean' and 'uninstall' only");
+    EXPECT_EQ(complaint({ "apps", "--yes" }),
+        "option '--yes' belongs to the commands 'clean', 'uninstall' and 'agents remove' only");
 }
 
 TEST(CommandLineTest, UninstallTakesOneApplicationAndOnlySaysSoUnlessTold)
@@ -139,6 +141,39 @@ TEST(CommandLineTest, UninstallTakesOneApplicationAndOnlySaysSoUnlessTold)
             complaint({ "uninstall", "a", option }).find("belongs to the command 'clean' only"), std::string::npos)
             << option;
     }
+}
+
+TEST(CommandLineTest, MaintenanceListsUnlessItIsToldToRunATask)
+{
+    EXPECT_EQ(parse({ "maintenance" }).command, Command::Maintenance);
+    EXPECT_EQ(parse({ "maintenance", "list", "--json" }).command, Command::Maintenance);
+    const auto line = parse({ "maintenance", "run", "--json", "flushDNS" });
+    EXPECT_EQ(line.command, Command::RunTask);
+    EXPECT_EQ(line.task, MaintenanceTask::FlushDNS);
+    EXPECT_EQ(line.format, Format::Json);
+    const std::string tasks = "one of: freeRAM, flushDNS, reindexSpotlight";
+    EXPECT_EQ(complaint({ "maintenance", "run" }), "a task is missing; " + tasks);
+    EXPECT_EQ(complaint({ "maintenance", "run", "FreeRAM" }), "unknown task 'FreeRAM'; " + tasks);
+    EXPECT_EQ(complaint({ "maintenance", "run", "freeRAM", "flushDNS" }), "unexpected argument 'flushDNS'");
+    EXPECT_EQ(complaint({ "maintenance", "freeRAM" }), "unknown action 'freeRAM'; one of: list, run");
+    EXPECT_EQ(complaint({ "maintenance", "list", "run" }), "unexpected argument 'run'");
+    EXPECT_NE(complaint({ "maintenance", "run", "freeRAM", "--yes" }).find("belongs to"), std::string::npos);
+}
+
+TEST(CommandLineTest, AgentsListsUnlessItIsToldToRemoveOne)
+{
+    EXPECT_EQ(parse({ "agents", "--json" }).command, Command::Agents);
+    EXPECT_EQ(parse({ "agents", "list" }).command, Command::Agents);
+    const auto line = parse({ "agents", "remove", "/a\xff.plist" });
+    EXPECT_EQ(line.command, Command::RemoveAgent);
+    EXPECT_EQ(line.agent, "/a\xff.plist");
+    EXPECT_EQ(line.confirmation, CommandLine::Confirmation::Missing);
+    EXPECT_EQ(parse({ "agents", "remove", "/a", "--yes" }).confirmation, CommandLine::Confirmation::Given);
+    EXPECT_EQ(
+        complaint({ "agents", "remove" }), "the path of a background item is missing; 'korvane-cli agents' lists them");
+    EXPECT_EQ(complaint({ "agents", "remove", "/a", "/b" }), "unexpected argument '/b'");
+    EXPECT_EQ(complaint({ "agents", "stop" }), "unknown action 'stop'; one of: list, remove");
+    EXPECT_NE(complaint({ "agents", "--yes" }).find("belongs to"), std::string::npos);
 }
 
 TEST(CommandLineTest, AllAndItemExcludeEachOther)
