@@ -9,6 +9,7 @@
 ///   Core/              the rules, without Qt: Modules, FullDiskAccess
 ///     Scanning/          what is found: the scan model and the scanners
 ///     Cleaning/          how it is removed
+///     Maintenance/       the tasks for the whole machine; what starts by itself, and how it is removed
 ///   UI/                the screens, each a QML file and the view model that bears its name; Theme
 ///     Content/           the parts of the main window
 ///     Controls/          the look of a button, a switch, a card

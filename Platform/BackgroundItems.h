@@ -32,7 +32,8 @@ struct BackgroundItem {
 /// Linux: the autostart entries of the user, then those of all users that no entry of the user's of the same name takes
 /// the place of, none that is hidden; then the user's own units that are enabled. macOS: none.
 ///
-/// Each kind sorted by file name. What cannot be read is left out. Off the main thread. Throws CancellationError.
+/// Each kind sorted by file name. A file that is too large to be read has the label of its name and no program; what
+/// is no regular file is left out. Off the main thread. Throws CancellationError.
 std::vector<BackgroundItem> backgroundItems(const Environment& environment, const Cancellation& cancellation);
 
 /// The folders in which a kind's files of the user lie.

@@ -12,6 +12,7 @@
 
 #include <chrono>
 #include <set>
+#include <system_error>
 #include <utility>
 
 namespace Korvane {
@@ -51,16 +52,26 @@ private:
             // The first of a name counts, also when all that it does is hide the others.
             if (file.extension() != ".desktop" || !m_names.insert(name).second)
                 continue;
-            const auto text = m_budget.contents(file);
-            const auto entry = text ? parseDesktopEntry(*text) : std::nullopt;
-            if (!entry || entry->isHidden)
-                continue;
-            const auto command = entry->command();
-            const auto label = entry->name.empty() ? file.stem().native() : entry->name;
-            m_items.push_back({ file, displayText(std::string_view(label)),
-                command.empty() ? std::nullopt : std::make_optional(displayText(std::string_view(command.front()))),
-                Kind::Autostart, owner });
+            addEntry(file, owner);
         }
+    }
+
+    void addEntry(const std::filesystem::path& file, Owner owner)
+    {
+        std::error_code error;
+        if (!std::filesystem::is_regular_file(file, error))
+            return;
+        BackgroundItem item{ file, displayText(file.stem()), std::nullopt, Kind::Autostart, owner };
+        if (const auto text = m_budget.contents(file)) {
+            const auto entry = parseDesktopEntry(*text);
+            if (!entry || entry->isHidden)
+                return;
+            if (!entry->name.empty())
+                item.label = displayText(std::string_view(entry->name));
+            if (const auto command = entry->command(); !command.empty())
+                item.program = displayText(std::string_view(command.front()));
+        }
+        m_items.push_back(std::move(item));
     }
 
     void addUnit(const std::filesystem::path& unit)

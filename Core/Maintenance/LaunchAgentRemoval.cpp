@@ -32,13 +32,27 @@ std::vector<std::filesystem::path> foldersOf(Kind kind, const Host& host)
     return {};
 }
 
+bool hasItsExtension(const LaunchAgent& agent)
+{
+    const auto extension = agent.url.extension();
+    switch (agent.kind) {
+    case Kind::PropertyList:
+        return extension == ".plist";
+    case Kind::Autostart:
+        return extension == ".desktop";
+    case Kind::SystemdUnit:
+        return !extension.empty();
+    }
+    return false;
+}
+
 /// Whether a scan can have found it there: a record made otherwise must not send away whatever it names.
 bool isInItsFolder(const LaunchAgent& agent, const Host& host)
 {
+    const auto name = agent.url.filename();
     const auto folders = foldersOf(agent.kind, host);
-    return std::any_of(folders.begin(), folders.end(), [&](const auto& folder) {
-        return !agent.url.filename().empty() && agent.url == folder / agent.url.filename();
-    });
+    return hasItsExtension(agent)
+        && std::any_of(folders.begin(), folders.end(), [&](const auto& folder) { return agent.url == folder / name; });
 }
 
 /// What the service manager says does not count: it knows only what it has been given.

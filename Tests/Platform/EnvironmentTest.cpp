@@ -87,6 +87,29 @@ TEST(Environment, FindsTheApplicationsOfAllUsersWhereThePlatformHasThem)
     EXPECT_EQ(Environment::current().applicationsDirectory, "/Applications");
 }
 
+TEST(Environment, FindsWhatMaintenanceNeedsWhereThePlatformHasIt)
+{
+    const auto environment = Environment::current();
+    EXPECT_EQ(environment.scriptInterpreter, "/usr/bin/osascript");
+    EXPECT_EQ(environment.serviceManager, "/bin/launchctl");
+    EXPECT_EQ(environment.machineLibrary, "/Library");
+    EXPECT_EQ(environment.userId, ::getuid());
+}
+
+TEST(Environment, TakesTheAbsoluteOnesOfTheSharedSettingsFolders)
+{
+    using Paths = std::vector<std::filesystem::path>;
+    {
+        const EnvironmentVariable folders("XDG_CONFIG_DIRS", "/a/:relative::/b c\xff:/");
+        EXPECT_EQ(Environment::current().xdgConfigDirs, (Paths{ "/a", "/b c\xff", "/" }));
+    }
+    for (const auto& value :
+        { std::optional<std::string>(), std::optional<std::string>(""), std::optional<std::string>("relative:") }) {
+        const EnvironmentVariable folders("XDG_CONFIG_DIRS", value);
+        EXPECT_EQ(Environment::current().xdgConfigDirs, Paths{ "/etc/xdg" });
+    }
+}
+
 #ifndef __APPLE__
 TEST(Environment, TakesTheTemporaryDirectoryFromItsVariableOnlyWhenAbsolute)
 {
@@ -114,6 +137,12 @@ TEST(Environment, InAFolderKeepsEverythingInsideIt)
     EXPECT_EQ(environment.dataHome(), folder / "home/.local/share");
     EXPECT_EQ(environment.stateHome(), folder / "home/.local/state");
     EXPECT_EQ(environment.applicationsDirectory, folder / "Applications");
+    EXPECT_EQ(environment.scriptInterpreter, folder / "bin/osascript");
+    EXPECT_EQ(environment.serviceManager, folder / "bin/launchctl");
+    EXPECT_EQ(environment.machineLibrary, folder / "Library");
+    EXPECT_EQ(environment.programFolders, (std::vector<std::filesystem::path>{ folder / "bin" }));
+    EXPECT_EQ(environment.xdgConfigDirs, (std::vector<std::filesystem::path>{ folder / "xdg" }));
+    EXPECT_EQ(environment.userId, ::getuid());
     EXPECT_TRUE(std::filesystem::is_directory(environment.home));
     EXPECT_TRUE(std::filesystem::is_directory(environment.temporaryDirectory));
 }

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace Korvane {
 namespace {
 
@@ -90,6 +92,30 @@ TEST(TextSearch, ServesALocaleThatIsNone)
 {
     EXPECT_TRUE(contains("Mail", "MAI", "no such locale"));
     EXPECT_TRUE(contains("Mail", "MAI", ""));
+}
+
+TEST(TextSearch, KeysOrderAsAReaderDoesWithoutRegardToCase)
+{
+    const auto keys = [](const std::vector<std::string_view>& texts, const std::string& locale = "en_US") {
+        return localizedCaseInsensitiveKeys(texts, locale);
+    };
+    const auto ascending = keys({ "", "a", "A b", "ab", "\u00E4", "B", "com.example.a", "com.example.B", "Z" });
+    EXPECT_TRUE(std::is_sorted(ascending.begin(), ascending.end()));
+    const auto same = keys({ "Agent", "aGENT", "AGENT" });
+    EXPECT_TRUE(same[0] == same[1] && same[1] == same[2]);
+    const auto accents = keys({ "e", "\u00E9", "e\u0301" });
+    EXPECT_LT(accents[0], accents[1]);
+    EXPECT_EQ(accents[1], accents[2]);
+    const auto swedish = keys({ "z", "\u00E4" }, "sv_SE"), german = keys({ "z", "\u00E4" }, "de_DE");
+    EXPECT_LT(swedish[0], swedish[1]);
+    EXPECT_LT(german[1], german[0]);
+}
+
+TEST(TextSearch, KeysAreMadeOfAnyBytes)
+{
+    const std::string large(1'000'000, 'x');
+    EXPECT_EQ(localizedCaseInsensitiveKeys({ "\xff", std::string_view("a\0b", 3), large }).size(), 3U);
+    EXPECT_TRUE(localizedCaseInsensitiveKeys({}).empty());
 }
 
 } // namespace
