@@ -44,12 +44,7 @@ protected:
         test.workspace->setRunning(std::move(running));
         test.host.applications = std::make_shared<TestCatalog>();
         Program program(test.host, {});
-        testing::internal::CaptureStdout();
-        testing::internal::CaptureStderr();
-        const auto status = program.run(arguments);
-        output = testing::internal::GetCapturedStdout();
-        errors = testing::internal::GetCapturedStderr();
-        return status;
+        return runHere(program, arguments);
     }
 };
 

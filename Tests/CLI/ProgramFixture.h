@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "CLI/Program.h"
 #include "Tests/CLI/ProgramRun.h"
 #include "Tests/Support/TemporaryFolder.h"
 
@@ -45,6 +46,17 @@ protected:
         output = program.output();
         errors = program.errors();
         return program.status();
+    }
+
+    /// Carries out a command line in this process.
+    ExitStatus runHere(Program& program, const std::vector<std::string>& arguments)
+    {
+        testing::internal::CaptureStdout();
+        testing::internal::CaptureStderr();
+        const auto status = program.run(arguments);
+        output = testing::internal::GetCapturedStdout();
+        errors = testing::internal::GetCapturedStderr();
+        return status;
     }
 
     /// The one JSON object that was printed.

@@ -21,12 +21,7 @@ protected:
     ExitStatus runHere(const std::vector<std::string>& arguments)
     {
         Program program(m_test.host, {});
-        testing::internal::CaptureStdout();
-        testing::internal::CaptureStderr();
-        const auto status = program.run(arguments);
-        output = testing::internal::GetCapturedStdout();
-        errors = testing::internal::GetCapturedStderr();
-        return status;
+        return ProgramFixture::runHere(program, arguments);
     }
 
     void writeInterpreter(const std::string& script) const { writeProgram(folder / "bin/osascript", script); }

@@ -23,7 +23,8 @@ TEST(JsonReportsTest, PlanSaysWhatWouldBeDoneToEachItem)
     };
     const CleaningPlan plan{ CleanerModule::systemJunk, CommandLine::Selection::All,
         { step("/a", Cleaner::Action::MoveToTrash), step("/b", Cleaner::Action::Delete),
-            step("/c", Cleaner::Action::EmptyTrash) }, {} };
+            step("/c", Cleaner::Action::EmptyTrash) },
+        {} };
     const auto item = [](const std::string& name, const std::string& action) {
         return "{\"path\":\"/" + name + "\",\"displayName\":\"" + name
             + "\",\"category\":\"Trash\",\"sizeInBytes\":1,\"selectableByDefault\":false,\"action\":\"" + action

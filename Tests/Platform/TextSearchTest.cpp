@@ -99,7 +99,7 @@ TEST(TextSearch, KeysOrderAsAReaderDoesWithoutRegardToCase)
     const auto keys = [](const std::vector<std::string_view>& texts, const std::string& locale = "en_US") {
         return localizedCaseInsensitiveKeys(texts, locale);
     };
-    const auto ascending = keys({ "", "a", "A b", "ab", "\u00E4", "B", "com.example.a", "com.example.B", "Z" });
+    const auto ascending = keys({ "", "a", "\u00E4", "A b", "ab", "B", "com.example.a", "com.example.B", "Z" });
     EXPECT_TRUE(std::is_sorted(ascending.begin(), ascending.end()));
     const auto same = keys({ "Agent", "aGENT", "AGENT" });
     EXPECT_TRUE(same[0] == same[1] && same[1] == same[2]);
