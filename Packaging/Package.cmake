@@ -29,7 +29,7 @@ for a terminal and for scripts.")
         # The windows' QML modules are loaded at run time, so that no tool can see that they are needed.
         set(CPACK_DEBIAN_PACKAGE_DEPENDS "qml6-module-qtqml, qml6-module-qtqml-workerscript, qml6-module-qtquick, \
 qml6-module-qtquick-layouts, qml6-module-qtquick-templates, qml6-module-qtquick-window")
-        set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-inter, qt6-wayland")
+        set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-inter, pkexec | policykit-1, qt6-wayland")
     endif()
 endif()
 
