@@ -15,12 +15,13 @@
 
 namespace Korvane {
 
-/// Runs `work()` on the shared thread pool and hands its value to `done` on the main thread.
+/// Runs `work()` on a thread of the pool and hands its value to `done` on the main thread.
 ///
 /// Main thread. `done` is called at most once, from the event loop and never before this function has returned, and not
 /// at all when `receiver` is gone by then. `work` must not throw: it turns what went wrong into a value. See
 /// finishBackgroundWork for the end of the program.
-template <typename Work, typename Done> void runInBackground(QObject* receiver, Work work, Done done)
+template <typename Work, typename Done>
+void runInBackground(QThreadPool& threads, QObject* receiver, Work work, Done done)
 {
     using Value = std::invoke_result_t<Work>;
     // The receiver itself cannot be the continuation's context: on Qt 6.4 a context that is destroyed before the work
@@ -33,7 +34,13 @@ template <typename Work, typename Done> void runInBackground(QObject* receiver, 
         };
         QMetaObject::invokeMethod(application, std::move(arrive), Qt::QueuedConnection);
     };
-    QtConcurrent::run(std::move(work)).then(std::move(deliver));
+    QtConcurrent::run(&threads, std::move(work)).then(std::move(deliver));
+}
+
+/// The same on the shared thread pool.
+template <typename Work, typename Done> void runInBackground(QObject* receiver, Work work, Done done)
+{
+    runInBackground(*QThreadPool::globalInstance(), receiver, std::move(work), std::move(done));
 }
 
 /// Lets go of a large value away from the main thread; it is freed there if nobody else holds it.

@@ -36,14 +36,17 @@ ContentViewModel::ContentViewModel(const Host& host, Navigation& navigation, QOb
     , m_access(host)
     , m_settings(host.defaults, m_access)
     , m_applicationIcons(std::make_shared<ApplicationIcons>())
+    , m_maintenanceThreads(std::make_shared<WaitingThreads>())
 {
     connect(&navigation, &Navigation::selectedModuleChanged, this, [this] {
         renewScan();
         renewUninstaller();
+        renewMaintenance();
         Q_EMIT selectedModuleChanged();
     });
     renewScan();
     renewUninstaller();
+    renewMaintenance();
 }
 
 void ContentViewModel::renewScan()
@@ -62,17 +65,31 @@ void ContentViewModel::renewScan()
 
 void ContentViewModel::renewUninstaller()
 {
-    const ModuleViewModel* selected = selectedModule();
-    const bool isSelected = selected && selected->module() == CleanerModule::uninstaller;
-    if (isSelected == (m_uninstaller != nullptr))
+    const bool isShown = isSelected(CleanerModule::uninstaller);
+    if (isShown == (m_uninstaller != nullptr))
         return;
     UninstallerViewModel* gone = std::exchange(
-        m_uninstaller, isSelected ? new UninstallerViewModel(m_host, m_applicationIcons, {}, this) : nullptr);
+        m_uninstaller, isShown ? new UninstallerViewModel(m_host, m_applicationIcons, {}, this) : nullptr);
     Q_EMIT uninstallerChanged();
     // As above.
     if (gone)
         gone->deleteLater();
 }
+
+void ContentViewModel::renewMaintenance()
+{
+    const bool isShown = isSelected(CleanerModule::maintenance);
+    if (isShown == (m_maintenance != nullptr))
+        return;
+    MaintenanceViewModel* gone = std::exchange(
+        m_maintenance, isShown ? new MaintenanceViewModel(m_host, m_maintenanceThreads, this) : nullptr);
+    Q_EMIT maintenanceChanged();
+    // As above.
+    if (gone)
+        gone->deleteLater();
+}
+
+bool ContentViewModel::isSelected(CleanerModule module) const { return m_navigation.selectedModule() == module; }
 
 ModuleViewModel* ContentViewModel::moduleViewModel(CleanerModule module) const
 {

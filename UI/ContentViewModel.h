@@ -6,6 +6,7 @@
 #include "Platform/Host.h"
 #include "UI/DashboardViewModel.h"
 #include "UI/FullDiskAccessViewModel.h"
+#include "UI/MaintenanceViewModel.h"
 #include "UI/ModuleViewModel.h"
 #include "UI/Navigation.h"
 #include "UI/ScanViewModel.h"
@@ -23,7 +24,7 @@ namespace Korvane {
 
 /// The main window: the modules in its sidebar, which of them is shown, and the view models of its screens.
 ///
-/// Main thread. Owns the view models that it hands out.
+/// Main thread. Owns the view models that it hands out. Its end ends the maintenance tasks that still run.
 class ContentViewModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -39,6 +40,8 @@ class ContentViewModel : public QObject {
     Q_PROPERTY(Korvane::ScanViewModel* scan READ scan NOTIFY scanChanged FINAL)
     /// The screen of the uninstaller while it is selected, else null. A fresh one each time.
     Q_PROPERTY(Korvane::UninstallerViewModel* uninstaller READ uninstaller NOTIFY uninstallerChanged FINAL)
+    /// The screen of the maintenance while it is selected, else null. A fresh one each time.
+    Q_PROPERTY(Korvane::MaintenanceViewModel* maintenance READ maintenance NOTIFY maintenanceChanged FINAL)
     Q_PROPERTY(Korvane::DashboardViewModel* dashboard READ dashboard CONSTANT FINAL)
     Q_PROPERTY(Korvane::FullDiskAccessViewModel* access READ access CONSTANT FINAL)
     Q_PROPERTY(Korvane::SettingsViewModel* settings READ settings CONSTANT FINAL)
@@ -54,6 +57,7 @@ public:
     void setSelectedModule(ModuleViewModel* module);
     ScanViewModel* scan() const { return m_scan; }
     UninstallerViewModel* uninstaller() const { return m_uninstaller; }
+    MaintenanceViewModel* maintenance() const { return m_maintenance; }
     DashboardViewModel* dashboard() { return &m_dashboard; }
     FullDiskAccessViewModel* access() { return &m_access; }
     SettingsViewModel* settings() { return &m_settings; }
@@ -68,12 +72,15 @@ Q_SIGNALS:
     void selectedModuleChanged();
     void scanChanged();
     void uninstallerChanged();
+    void maintenanceChanged();
     /// The main window is to open the settings window.
     void settingsRequested();
 
 private:
     void renewScan();
     void renewUninstaller();
+    void renewMaintenance();
+    bool isSelected(CleanerModule module) const;
     QList<ModuleViewModel*> modules(std::initializer_list<CleanerModule> modules) const;
 
     const Host m_host;
@@ -88,6 +95,8 @@ private:
     ScanViewModel* m_scan = nullptr; ///< A child of this.
     std::shared_ptr<ApplicationIcons> m_applicationIcons;
     UninstallerViewModel* m_uninstaller = nullptr; ///< A child of this.
+    std::shared_ptr<WaitingThreads> m_maintenanceThreads; ///< Of every maintenance screen, past ones too.
+    MaintenanceViewModel* m_maintenance = nullptr; ///< A child of this.
 };
 
 } // namespace Korvane

@@ -53,6 +53,7 @@ QtObject {
     readonly property color pressedFill: dark ? "#24ffffff" : "#1a000000"
     readonly property color selectionFill: dark ? "#2effffff" : "#1a000000"
     readonly property color trackFill: dark ? "#26ffffff" : "#1a000000"
+    readonly property color capsuleFill: dark ? "#1fffffff" : "#12000000"
     readonly property color focusRing: Qt.alpha(blue, dark ? 0.75 : 0.6)
     readonly property color cardBorder: dark ? "#1affffff" : "#12000000"
     readonly property color shadow: dark ? "#66000000" : "#24000000"
@@ -60,6 +61,7 @@ QtObject {
     // Fills under white text, strong enough for it.
     readonly property color prominentFill: "#0a6fe8"
     readonly property color destructiveFill: "#d92d20"
+    readonly property color greenFill: "#1b7f37"
     /// Under the white symbol of a tile, where its gradient thins out.
     function tileBase(accent: color): color {
         return dark ? "#3a3a40" : Qt.darker(accent, 1.4);

@@ -44,6 +44,7 @@ Item {
         ModuleOverview {
             anchors.fill: parent
             visible: module !== null && !module.generic && detail.viewModel.uninstaller === null
+                && detail.viewModel.maintenance === null
             module: detail.viewModel.selectedModule
         }
         // A repeater of at most one: a screen keeps its view model for life, also while it is being replaced.
@@ -73,6 +74,20 @@ Item {
                 focus: true
                 viewModel: modelData
                 Component.onCompleted: area.lead(uninstaller)
+            }
+        }
+        Repeater {
+            model: detail.viewModel.maintenance === null ? [] : [detail.viewModel.maintenance]
+
+            MaintenanceView {
+                id: maintenance
+
+                required property MaintenanceViewModel modelData
+
+                anchors.fill: parent
+                focus: true
+                viewModel: modelData
+                Component.onCompleted: area.lead(maintenance)
             }
         }
     }

@@ -22,6 +22,8 @@ T.Button {
     property bool large: false
     /// The name of the symbol before the text; empty for none.
     property string symbol: ""
+    /// What a prominent button is filled with; white must be readable on it.
+    property color tint: Theme.prominentFill
 
     readonly property bool filled: button.kind === Button.Prominent || button.kind === Button.Destructive
     property color ink: button.filled ? Theme.onAccent
@@ -29,7 +31,7 @@ T.Button {
     readonly property color fill: {
         switch (button.kind) {
         case Button.Prominent:
-            return Theme.prominentFill;
+            return button.tint;
         case Button.Destructive:
             return Theme.destructiveFill;
         case Button.Borderless:

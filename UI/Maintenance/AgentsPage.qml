@@ -1,0 +1,155 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Korvane.UI
+
+/// The whole page: the tasks above the background items, which are made only as far as they are seen. Arrow keys, Home,
+/// End and the Page keys move among the items.
+ListView {
+    id: list
+
+    required property MaintenanceViewModel viewModel
+
+    readonly property real margin: (list.width - Math.min(list.width - 2 * Theme.pageMargin, 1120)) / 2
+    readonly property int rowHeight: 56
+    readonly property int rowsPerPage: Math.max(1, Math.floor(list.height / list.rowHeight) - 1)
+    readonly property real headerHeight: list.headerItem === null ? 0 : list.headerItem.height
+    /// The row that Tab leads to.
+    property int row: 0
+    /// Whether the keyboard was used last.
+    property bool byKeyboard: false
+    /// Whether the top of the page is to be seen.
+    property bool atTop: true
+
+    /// Brings the keyboard to the row, or to the nearest that there is.
+    function moveTo(row: int): void {
+        if (list.count === 0)
+            return;
+        list.row = Math.max(0, Math.min(list.count - 1, row));
+        list.positionViewAtIndex(list.row, ListView.Contain);
+        const item = list.itemAtIndex(list.row);
+        if (item !== null)
+            item.forceActiveFocus(list.byKeyboard ? Qt.TabFocusReason : Qt.OtherFocusReason);
+    }
+    function leaveUpwards(): void {
+        const item = list.itemAtIndex(0);
+        const above = item === null ? null : item.nextItemInFocusChain(false);
+        if (above !== null)
+            above.forceActiveFocus(Qt.BacktabFocusReason);
+    }
+    /// Gives the keyboard to a row in place of one that had it and has gone.
+    function keepKeyboard(): void {
+        if (list.Window.activeFocusItem === list)
+            list.moveTo(list.row);
+    }
+    /// Does what a key is for; whether it is for anything.
+    function takesKey(key: int): bool {
+        switch (key) {
+        case Qt.Key_Up:
+            if (list.row === 0)
+                list.leaveUpwards();
+            else
+                list.moveTo(list.row - 1);
+            return true;
+        case Qt.Key_Down:
+            list.moveTo(list.row + 1);
+            return true;
+        case Qt.Key_Home:
+            list.moveTo(0);
+            return true;
+        case Qt.Key_End:
+            list.moveTo(list.count - 1);
+            return true;
+        case Qt.Key_PageUp:
+            list.moveTo(list.row - list.rowsPerPage);
+            return true;
+        case Qt.Key_PageDown:
+            list.moveTo(list.row + list.rowsPerPage);
+            return true;
+        default:
+            return false;
+        }
+    }
+    // By itself a list keeps its rows in their places when what is above them grows.
+    function stayAtTop(): void {
+        if (list.atTop)
+            list.contentY = list.originY;
+    }
+
+    model: list.viewModel.agentRows
+    // The list's own current item would take the keyboard away from the tasks whenever it changes.
+    currentIndex: -1
+    keyNavigationEnabled: false
+    boundsBehavior: Flickable.StopAtBounds
+    cacheBuffer: 640
+    clip: true
+    Accessible.role: Accessible.List
+    Accessible.name: qsTr("Background items")
+    T.ScrollBar.vertical: ScrollBar { }
+
+    onHeaderHeightChanged: Qt.callLater(list.stayAtTop)
+    onOriginYChanged: Qt.callLater(list.stayAtTop)
+    onContentYChanged: {
+        list.atTop = list.contentY <= list.originY + 1;
+        // What Tab leads to must exist.
+        if (list.count > 0 && list.itemAtIndex(list.row) === null)
+            list.row = Math.max(0, list.indexAt(list.width / 2, list.contentY + list.height / 2));
+    }
+    onCountChanged: {
+        list.row = Math.max(0, Math.min(list.count - 1, list.row));
+        Qt.callLater(list.keepKeyboard);
+    }
+    onActiveFocusChanged: Qt.callLater(list.keepKeyboard)
+    Keys.onPressed: event => {
+        if (list.headerItem !== null && list.headerItem.activeFocus)
+            return;
+        list.byKeyboard = true;
+        event.accepted = list.takesKey(event.key);
+    }
+
+    header: MaintenanceHeader {
+        width: list.width
+        margin: list.margin
+        viewModel: list.viewModel
+        focus: true
+    }
+    footer: Item {
+        width: list.width
+        height: Theme.spacingHuge + (list.count === 0 ? list.rowHeight : 0)
+    }
+    delegate: AgentRow {
+        id: agent
+
+        width: list.width
+        height: list.rowHeight
+        margin: list.margin
+        byKeyboard: list.byKeyboard
+        activeFocusOnTab: agent.index === list.row
+        onActiveFocusChanged: {
+            if (!agent.activeFocus)
+                return;
+            list.row = agent.index;
+            if (agent.focusReason === Qt.MouseFocusReason)
+                list.byKeyboard = false;
+        }
+        onRemovalRequested: list.viewModel.ask(agent.agentId)
+    }
+
+    Card {
+        parent: list.contentItem
+        z: -1
+        x: list.margin
+        y: list.originY + list.headerHeight
+        width: list.width - 2 * list.margin
+        height: Math.max(1, list.count) * list.rowHeight
+        radius: Theme.radiusLarge
+        shadow: false
+    }
+    FocusReveal {
+        page: list
+    }
+}
