@@ -130,6 +130,7 @@ void ThemeTest::whiteCanBeReadOnFilledButtons()
     m_appearance->setDark(dark);
     QVERIFY(contrast(color("onAccent"), color("prominentFill")) >= 4.5);
     QVERIFY(contrast(color("onAccent"), color("destructiveFill")) >= 4.5);
+    QVERIFY(contrast(color("onAccent"), color("greenFill")) >= 4.5);
 }
 
 void ThemeTest::theAccentGradientEndsAt55Percent()

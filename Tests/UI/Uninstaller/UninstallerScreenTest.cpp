@@ -204,7 +204,7 @@ void UninstallerScreenTest::comesBackAfresh()
     installThree();
     scanApps();
     press("Maintenance");
-    QTRY_VERIFY(shows("This module is not part of this version yet."));
+    QTRY_VERIFY(shows("Free Up RAM"));
     press("Uninstaller");
     QTRY_VERIFY(named("Scan Applications"));
     QVERIFY(!appRow("Notes"));
