@@ -91,8 +91,8 @@ ListView {
     Accessible.name: qsTr("Background items")
     T.ScrollBar.vertical: ScrollBar { }
 
-    onHeaderHeightChanged: Qt.callLater(list.stayAtTop)
-    onOriginYChanged: Qt.callLater(list.stayAtTop)
+    onHeaderHeightChanged: settling.restart()
+    onOriginYChanged: settling.restart()
     onContentYChanged: {
         list.atTop = list.contentY <= list.originY + 1;
         // What Tab leads to must exist.
@@ -101,9 +101,9 @@ ListView {
     }
     onCountChanged: {
         list.row = Math.max(0, Math.min(list.count - 1, list.row));
-        Qt.callLater(list.keepKeyboard);
+        settling.restart();
     }
-    onActiveFocusChanged: Qt.callLater(list.keepKeyboard)
+    onActiveFocusChanged: settling.restart()
     Keys.onPressed: event => {
         if (list.headerItem !== null && list.headerItem.activeFocus)
             return;
@@ -151,5 +151,15 @@ ListView {
     }
     FocusReveal {
         page: list
+    }
+    // Once the list has finished changing.
+    Timer {
+        id: settling
+
+        interval: 0
+        onTriggered: {
+            list.stayAtTop();
+            list.keepKeyboard();
+        }
     }
 }
