@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "Tests/Support/Sentinel.h"
-#include "Tests/Support/TestHost.h"
 #include "Tests/Support/TestTrash.h"
-#include "Tests/UI/Maintenance/HeldProcesses.h"
+#include "Tests/UI/Maintenance/MaintenanceHome.h"
 #include "Tests/UI/Scan/HeldScan.h"
 #include "UI/MaintenanceViewModel.h"
 
@@ -40,10 +38,11 @@ private Q_SLOTS:
     void manyHostileListsAreListed();
 
 private:
-    fs::path home() const { return m_host->host.environment.home; }
+    Host& host() const { return m_home->test.host; }
+    fs::path home() const { return host().environment.home; }
     fs::path userAgents() const { return home() / "Library/LaunchAgents"; }
-    fs::path systemAgents() const { return m_host->host.environment.machineLibrary / "LaunchAgents"; }
-    fs::path systemDaemons() const { return m_host->host.environment.machineLibrary / "LaunchDaemons"; }
+    fs::path systemAgents() const { return host().environment.machineLibrary / "LaunchAgents"; }
+    fs::path systemDaemons() const { return host().environment.machineLibrary / "LaunchDaemons"; }
     static void install(const fs::path& folder, const std::string& label, const std::string& program = {});
     void make();
     void load();
@@ -53,20 +52,13 @@ private:
     LaunchAgent agent(const std::string& label) const;
     QString idOf(const std::string& label) const { return QString::fromStdString(agent(label).id.toString()); }
 
-    std::unique_ptr<TemporaryFolder> m_folder;
-    std::unique_ptr<TestHost> m_host;
-    std::unique_ptr<Sentinel> m_sentinel;
-    std::shared_ptr<HeldProcesses> m_processes;
+    std::unique_ptr<MaintenanceHome> m_home;
     std::unique_ptr<MaintenanceViewModel> m_model;
 };
 
 void MaintenanceAgentsTest::init()
 {
-    m_folder = std::make_unique<TemporaryFolder>();
-    m_host = std::make_unique<TestHost>(makeTestHost(*m_folder));
-    m_sentinel = std::make_unique<Sentinel>(home() / "Library/Preferences/org.example.sync.plist");
-    m_processes = std::make_shared<HeldProcesses>();
-    m_host->host.processes = m_processes;
+    m_home = std::make_unique<MaintenanceHome>();
     make();
 }
 
@@ -74,10 +66,8 @@ void MaintenanceAgentsTest::cleanup()
 {
     m_model.reset();
     drain();
-    QVERIFY2(m_sentinel->isUnchanged(), m_sentinel->difference().c_str());
-    m_sentinel.reset();
-    m_host.reset();
-    m_folder.reset();
+    QVERIFY2(m_home->sentinel.isUnchanged(), m_home->sentinel.difference().c_str());
+    m_home.reset();
 }
 
 void MaintenanceAgentsTest::install(const fs::path& folder, const std::string& label, const std::string& program)
@@ -88,10 +78,7 @@ void MaintenanceAgentsTest::install(const fs::path& folder, const std::string& l
             + "</string>" + runs + "</dict></plist>\n");
 }
 
-void MaintenanceAgentsTest::make()
-{
-    m_model = std::make_unique<MaintenanceViewModel>(m_host->host, std::make_shared<WaitingThreads>());
-}
+void MaintenanceAgentsTest::make() { m_model = std::make_unique<MaintenanceViewModel>(host(), m_home->waiting); }
 
 void MaintenanceAgentsTest::load()
 {
@@ -102,7 +89,7 @@ void MaintenanceAgentsTest::load()
 
 void MaintenanceAgentsTest::remove(const std::string& label, int managerStatus)
 {
-    m_processes->end(".plist", HeldProcesses::ending(managerStatus, "Boot-out failed: 5: Input/output error"));
+    m_home->processes->end(".plist", HeldProcesses::ending(managerStatus, "Boot-out failed: 5: Input/output error"));
     QSignalSpy loaded(m_model.get(), &MaintenanceViewModel::agentsChanged);
     m_model->remove(agent(label));
     QTRY_COMPARE(loaded.count(), 1);
@@ -148,12 +135,12 @@ void MaintenanceAgentsTest::removesAnAgentAndLooksAgain()
     load();
     remove("org.example.sync", 0);
     QCOMPARE(labels(), QStringList{ QStringLiteral("org.example.update") });
-    QVERIFY(isInTestTrash(m_host->host.environment, "org.example.sync.plist"));
+    QVERIFY(isInTestTrash(host().environment, "org.example.sync.plist"));
     QVERIFY(fs::exists(userAgents() / "org.example.update.plist"));
-    const std::vector<ChildProcess> started = m_processes->started();
+    const std::vector<ChildProcess> started = m_home->processes->started();
     QCOMPARE(started.size(), std::size_t{ 1 });
-    QVERIFY(started.front().program == m_host->host.environment.serviceManager);
-    const std::vector<std::string> arguments{ "bootout", "gui/" + std::to_string(m_host->host.environment.userId),
+    QVERIFY(started.front().program == host().environment.serviceManager);
+    const std::vector<std::string> arguments{ "bootout", "gui/" + std::to_string(host().environment.userId),
         (userAgents() / "org.example.sync.plist").string() };
     QCOMPARE(started.front().arguments, arguments);
 }
@@ -165,19 +152,19 @@ void MaintenanceAgentsTest::removesItAlsoWhenTheServiceManagerFails()
     remove("org.example.sync", 5);
     QVERIFY(m_model->agents().empty());
     QCOMPARE(m_model->agentsTitle(), QStringLiteral("Background Items (0)"));
-    QVERIFY(isInTestTrash(m_host->host.environment, "org.example.sync.plist"));
+    QVERIFY(isInTestTrash(host().environment, "org.example.sync.plist"));
 }
 
 void MaintenanceAgentsTest::removesItAlsoWithoutAServiceManager()
 {
-    m_host->host.processes = makeProcessRunner();
+    host().processes = makeProcessRunner();
     make();
     install(userAgents(), "org.example.sync");
     load();
-    QVERIFY(!fs::exists(m_host->host.environment.serviceManager));
+    QVERIFY(!fs::exists(host().environment.serviceManager));
     m_model->remove(agent("org.example.sync"));
     QTRY_VERIFY(m_model->agents().empty());
-    QVERIFY(isInTestTrash(m_host->host.environment, "org.example.sync.plist"));
+    QVERIFY(isInTestTrash(host().environment, "org.example.sync.plist"));
 }
 
 void MaintenanceAgentsTest::aFileThatIsGoneIsNoLongerListed()
@@ -202,7 +189,7 @@ void MaintenanceAgentsTest::leavesAgentsOfTheSystemAlone()
         m_model->removeAsked();
     }
     drain();
-    QVERIFY(m_processes->started().empty());
+    QVERIFY(m_home->processes->started().empty());
     QVERIFY(fs::exists(systemAgents() / "org.example.agent.plist"));
     QVERIFY(fs::exists(systemDaemons() / "org.example.daemon.plist"));
     QCOMPARE(m_model->agents().size(), std::size_t{ 2 });
@@ -218,9 +205,9 @@ void MaintenanceAgentsTest::removesOnceHoweverOftenItIsConfirmed()
     for (int press = 0; press < 3; ++press)
         m_model->removeAsked();
     QVERIFY(!m_model->isAsking());
-    m_processes->end(".plist", HeldProcesses::ending(0));
+    m_home->processes->end(".plist", HeldProcesses::ending(0));
     QTRY_VERIFY(m_model->agents().empty());
-    QCOMPARE(m_processes->started().size(), std::size_t{ 1 });
+    QCOMPARE(m_home->processes->started().size(), std::size_t{ 1 });
 }
 
 void MaintenanceAgentsTest::theAgentAskedAboutMayBeFoundAgainMeanwhile()
@@ -232,10 +219,10 @@ void MaintenanceAgentsTest::theAgentAskedAboutMayBeFoundAgainMeanwhile()
     load();
     QVERIFY(agent("org.example.sync").id != asked.id);
     QVERIFY(m_model->agentToRemove() == asked);
-    m_processes->end(".plist", HeldProcesses::ending(0));
+    m_home->processes->end(".plist", HeldProcesses::ending(0));
     m_model->removeAsked();
     QTRY_VERIFY(m_model->agents().empty());
-    QVERIFY(isInTestTrash(m_host->host.environment, "org.example.sync.plist"));
+    QVERIFY(isInTestTrash(host().environment, "org.example.sync.plist"));
 }
 
 void MaintenanceAgentsTest::puttingTheQuestionAwayRemovesNothing()
@@ -247,7 +234,7 @@ void MaintenanceAgentsTest::puttingTheQuestionAwayRemovesNothing()
     QVERIFY(!m_model->isAsking() && !m_model->agentToRemove());
     m_model->removeAsked();
     drain();
-    QVERIFY(m_processes->started().empty());
+    QVERIFY(m_home->processes->started().empty());
     QVERIFY(fs::exists(userAgents() / "org.example.sync.plist"));
 }
 
@@ -267,11 +254,11 @@ void MaintenanceAgentsTest::finishesARemovalWhenTheScreenIsGone()
     install(userAgents(), "org.example.sync");
     load();
     m_model->remove(agent("org.example.sync"));
-    QTRY_COMPARE(m_processes->started().size(), std::size_t{ 1 });
+    QTRY_COMPARE(m_home->processes->started().size(), std::size_t{ 1 });
     m_model.reset();
-    m_processes->end(".plist", HeldProcesses::ending(0));
+    m_home->processes->end(".plist", HeldProcesses::ending(0));
     drain();
-    QVERIFY(isInTestTrash(m_host->host.environment, "org.example.sync.plist"));
+    QVERIFY(isInTestTrash(host().environment, "org.example.sync.plist"));
 }
 
 void MaintenanceAgentsTest::mayBeDestroyedWhileSearching()

@@ -3,8 +3,7 @@
 
 #include "UI/MaintenanceViewModel.h"
 #include "Core/Maintenance/MaintenanceRunner.h"
-#include "Tests/Support/TestHost.h"
-#include "Tests/UI/Maintenance/HeldProcesses.h"
+#include "Tests/UI/Maintenance/MaintenanceHome.h"
 #include "Tests/UI/Scan/HeldScan.h"
 
 #include <QSignalSpy>
@@ -38,36 +37,30 @@ private Q_SLOTS:
     void saysWhatIsMissing();
 
 private:
+    Host& host() const { return m_home->test.host; }
     /// How a task stands; nothing when it has not been run.
     std::optional<TaskState> state(MaintenanceTask task) const;
     /// Waits until so many programs have been started.
-    void waitForStarts(std::size_t count) const { QTRY_COMPARE(m_processes->started().size(), count); }
+    void waitForStarts(std::size_t count) const { QTRY_COMPARE(m_home->processes->started().size(), count); }
 
-    std::unique_ptr<TemporaryFolder> m_folder;
-    std::unique_ptr<TestHost> m_host;
-    std::shared_ptr<HeldProcesses> m_processes;
-    std::shared_ptr<WaitingThreads> m_waiting;
+    std::unique_ptr<MaintenanceHome> m_home;
     std::unique_ptr<MaintenanceViewModel> m_model;
 };
 
 void MaintenanceViewModelTest::init()
 {
-    m_folder = std::make_unique<TemporaryFolder>();
-    m_host = std::make_unique<TestHost>(makeTestHost(*m_folder));
-    writeFile(m_host->host.environment.scriptInterpreter, "");
-    m_processes = std::make_shared<HeldProcesses>();
-    m_host->host.processes = m_processes;
-    m_waiting = std::make_shared<WaitingThreads>();
-    m_model = std::make_unique<MaintenanceViewModel>(m_host->host, m_waiting);
+    m_home = std::make_unique<MaintenanceHome>();
+    writeFile(host().environment.scriptInterpreter, "");
+    m_model = std::make_unique<MaintenanceViewModel>(host(), m_home->waiting);
 }
 
 void MaintenanceViewModelTest::cleanup()
 {
     m_model.reset();
-    m_waiting.reset();
+    m_home->waiting.reset();
     drain();
-    m_host.reset();
-    m_folder.reset();
+    QVERIFY2(m_home->sentinel.isUnchanged(), m_home->sentinel.difference().c_str());
+    m_home.reset();
 }
 
 std::optional<TaskState> MaintenanceViewModelTest::state(MaintenanceTask task) const
@@ -91,14 +84,14 @@ void MaintenanceViewModelTest::runsATaskToItsEnd()
     QVERIFY(state(MaintenanceTask::ReindexSpotlight) == TaskState::running());
     QCOMPARE(m_model->taskStates().size(), std::size_t{ 1 });
     waitForStarts(1);
-    const ChildProcess process = m_processes->started().front();
-    QVERIFY(process.program == m_host->host.environment.scriptInterpreter);
+    const ChildProcess process = m_home->processes->started().front();
+    QVERIFY(process.program == host().environment.scriptInterpreter);
     const std::vector<std::string> arguments{ "-e",
         "do shell script \"/usr/bin/mdutil -E /\" with administrator privileges" };
     QCOMPARE(process.arguments, arguments);
     QCoreApplication::processEvents();
     QVERIFY(state(MaintenanceTask::ReindexSpotlight) == TaskState::running());
-    m_processes->end("mdutil", HeldProcesses::ending(0, "a warning"));
+    m_home->processes->end("mdutil", HeldProcesses::ending(0, "a warning"));
     QTRY_VERIFY(state(MaintenanceTask::ReindexSpotlight) == TaskState::done());
 }
 
@@ -118,11 +111,11 @@ void MaintenanceViewModelTest::twoTasksEndInEitherOrder()
     QVERIFY(state(MaintenanceTask::FreeRAM) == TaskState::running());
     QVERIFY(state(MaintenanceTask::FlushDNS) == TaskState::running());
     const auto endFreeRAM = [&] {
-        m_processes->end("purge", HeldProcesses::ending(0));
+        m_home->processes->end("purge", HeldProcesses::ending(0));
         QTRY_VERIFY(state(MaintenanceTask::FreeRAM) == TaskState::done());
     };
     const auto endFlushDNS = [&] {
-        m_processes->end("dscacheutil", HeldProcesses::ending(1, "no\n"));
+        m_home->processes->end("dscacheutil", HeldProcesses::ending(1, "no\n"));
         QTRY_VERIFY(state(MaintenanceTask::FlushDNS) == TaskState::failed(QStringLiteral("no")));
     };
     if (firstEndsFirst) {
@@ -142,21 +135,21 @@ void MaintenanceViewModelTest::twoTasksEndInEitherOrder()
 void MaintenanceViewModelTest::aFailureIsToldUntilTheTaskSucceeds()
 {
     m_model->run(MaintenanceTask::FlushDNS);
-    m_processes->end("dscacheutil", HeldProcesses::ending(1, "  User canceled. (-128)\n"));
+    m_home->processes->end("dscacheutil", HeldProcesses::ending(1, "  User canceled. (-128)\n"));
     QTRY_VERIFY(state(MaintenanceTask::FlushDNS) == TaskState::failed(QStringLiteral("User canceled. (-128)")));
     m_model->run(MaintenanceTask::FlushDNS);
     QVERIFY(state(MaintenanceTask::FlushDNS) == TaskState::running());
-    m_processes->end("dscacheutil", HeldProcesses::ending(0));
+    m_home->processes->end("dscacheutil", HeldProcesses::ending(0));
     QTRY_VERIFY(state(MaintenanceTask::FlushDNS) == TaskState::done());
 }
 
 void MaintenanceViewModelTest::aFailureMaySayNothing()
 {
     m_model->run(MaintenanceTask::FreeRAM);
-    m_processes->end("purge", HeldProcesses::ending(1));
+    m_home->processes->end("purge", HeldProcesses::ending(1));
     QTRY_VERIFY(state(MaintenanceTask::FreeRAM) == TaskState::failed({}));
     m_model->run(MaintenanceTask::FreeRAM);
-    m_processes->end("purge", HeldProcesses::ending(1, "\xff\xfe"));
+    m_home->processes->end("purge", HeldProcesses::ending(1, "\xff\xfe"));
     QTRY_VERIFY(state(MaintenanceTask::FreeRAM) == TaskState::failed(QStringLiteral("Unknown error")));
 }
 
@@ -169,10 +162,10 @@ void MaintenanceViewModelTest::everyPressOfTheSameTaskRunsIt()
     waitForStarts(5);
     QSignalSpy changes(m_model->taskRows(), &TaskListModel::dataChanged);
     for (int end = 0; end < 4; ++end)
-        m_processes->end("purge", HeldProcesses::ending(1, "busy"));
+        m_home->processes->end("purge", HeldProcesses::ending(1, "busy"));
     QTRY_COMPARE(changes.count(), 4);
     QVERIFY(state(MaintenanceTask::FreeRAM) == TaskState::failed(QStringLiteral("busy")));
-    m_processes->end("purge", HeldProcesses::ending(0));
+    m_home->processes->end("purge", HeldProcesses::ending(0));
     QTRY_VERIFY(state(MaintenanceTask::FreeRAM) == TaskState::done());
     QCOMPARE(m_model->taskStates().size(), std::size_t{ 1 });
 }
@@ -180,8 +173,8 @@ void MaintenanceViewModelTest::everyPressOfTheSameTaskRunsIt()
 void MaintenanceViewModelTest::tellsWhyATaskCannotBeStarted()
 {
     // An interpreter that is there, and not to be executed.
-    m_host->host.processes = makeProcessRunner();
-    m_model = std::make_unique<MaintenanceViewModel>(m_host->host, m_waiting);
+    host().processes = makeProcessRunner();
+    m_model = std::make_unique<MaintenanceViewModel>(host(), m_home->waiting);
     m_model->run(MaintenanceTask::FreeRAM);
     QTRY_VERIFY(state(MaintenanceTask::FreeRAM) != TaskState::running());
     QVERIFY(state(MaintenanceTask::FreeRAM)->kind == TaskState::Kind::Failed);
@@ -195,14 +188,14 @@ void MaintenanceViewModelTest::runsWhatTheScreenNamesAndNothingElse()
     QVERIFY(m_model->taskStates().empty());
     m_model->runTask(QStringLiteral("freeRAM"));
     QVERIFY(state(MaintenanceTask::FreeRAM) == TaskState::running());
-    m_processes->end("purge", HeldProcesses::ending(0));
+    m_home->processes->end("purge", HeldProcesses::ending(0));
     QTRY_VERIFY(state(MaintenanceTask::FreeRAM) == TaskState::done());
-    QCOMPARE(m_processes->started().size(), std::size_t{ 1 });
+    QCOMPARE(m_home->processes->started().size(), std::size_t{ 1 });
 }
 
 void MaintenanceViewModelTest::manyTasksHoldUpNothingElse()
 {
-    writeFile(m_host->host.environment.home / "Library/LaunchAgents/org.example.sync.plist", "");
+    writeFile(host().environment.home / "Library/LaunchAgents/org.example.sync.plist", "");
     const int tasks = 2 * QThreadPool::globalInstance()->maxThreadCount() + 3;
     for (int task = 0; task < tasks; ++task)
         m_model->run(MaintenanceTask::FreeRAM);
@@ -217,10 +210,10 @@ void MaintenanceViewModelTest::aTaskOutlivesItsScreen()
     m_model->run(MaintenanceTask::FreeRAM);
     waitForStarts(1);
     m_model.reset();
-    m_processes->end("purge", HeldProcesses::ending(0));
-    m_waiting->threads().waitForDone();
+    m_home->processes->end("purge", HeldProcesses::ending(0));
+    m_home->waiting->threads().waitForDone();
     QCoreApplication::processEvents();
-    QCOMPARE(m_processes->cancelled(), 0);
+    QCOMPARE(m_home->processes->cancelled(), 0);
 }
 
 void MaintenanceViewModelTest::theEndOfTheThreadsEndsWhatRuns()
@@ -229,8 +222,8 @@ void MaintenanceViewModelTest::theEndOfTheThreadsEndsWhatRuns()
     m_model->run(MaintenanceTask::FlushDNS);
     waitForStarts(2);
     m_model.reset();
-    m_waiting.reset();
-    QCOMPARE(m_processes->cancelled(), 2);
+    m_home->waiting.reset();
+    QCOMPARE(m_home->processes->cancelled(), 2);
 }
 
 void MaintenanceViewModelTest::saysWhatIsMissing()
@@ -242,17 +235,17 @@ void MaintenanceViewModelTest::saysWhatIsMissing()
     for (int row = 0; row < 3; ++row)
         QVERIFY(runnable(row));
     // Without the interpreter it is the host's own means that count, where it has any.
-    std::filesystem::remove(m_host->host.environment.scriptInterpreter);
+    std::filesystem::remove(host().environment.scriptInterpreter);
     m_model->appear();
     drain();
     for (int row = 0; row < 3; ++row) {
         const MaintenanceTask task = allMaintenanceTasks.at(static_cast<std::size_t>(row));
-        const std::optional<std::string> missing = MaintenanceRunner::missingMeans(task, m_host->host);
+        const std::optional<std::string> missing = MaintenanceRunner::missingMeans(task, host());
         QCOMPARE(runnable(row), !missing);
         QCOMPARE(m_model->taskRows()->index(row).data(TaskListModel::MessageRole).toString().toStdString(),
             missing.value_or(""));
     }
-    QVERIFY(m_model->taskStates().empty() && m_processes->started().empty());
+    QVERIFY(m_model->taskStates().empty() && m_home->processes->started().empty());
 }
 
 QTEST_GUILESS_MAIN(MaintenanceViewModelTest)
