@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "Platform/ProcessRunner.h"
+#include "Tests/Support/TestProcessRunner.h"
 
 #include <algorithm>
 #include <chrono>
@@ -18,15 +18,6 @@ namespace Korvane {
 /// Programs that a test plays: each waits until the test says how it ends, or until it is cancelled. Any thread.
 class HeldProcesses final : public ProcessRunner {
 public:
-    /// How a program ends that says this on standard error.
-    static ChildResult ending(int status, std::string said = {})
-    {
-        ChildResult result;
-        result.exitStatus = status;
-        result.errorOutput.text = std::move(said);
-        return result;
-    }
-
     /// Lets one program end so whose last argument contains `part`: one that runs, else the next one.
     void end(const std::string& part, ChildResult result)
     {

@@ -89,7 +89,8 @@ void MaintenanceAgentsTest::load()
 
 void MaintenanceAgentsTest::remove(const std::string& label, int managerStatus)
 {
-    m_home->processes->end(".plist", HeldProcesses::ending(managerStatus, "Boot-out failed: 5: Input/output error"));
+    m_home->processes->end(
+        ".plist", TestProcessRunner::exited(managerStatus, "Boot-out failed: 5: Input/output error"));
     QSignalSpy loaded(m_model.get(), &MaintenanceViewModel::agentsChanged);
     m_model->remove(agent(label));
     QTRY_COMPARE(loaded.count(), 1);
@@ -205,7 +206,7 @@ void MaintenanceAgentsTest::removesOnceHoweverOftenItIsConfirmed()
     for (int press = 0; press < 3; ++press)
         m_model->removeAsked();
     QVERIFY(!m_model->isAsking());
-    m_home->processes->end(".plist", HeldProcesses::ending(0));
+    m_home->processes->end(".plist", TestProcessRunner::exited(0));
     QTRY_VERIFY(m_model->agents().empty());
     QCOMPARE(m_home->processes->started().size(), std::size_t{ 1 });
 }
@@ -219,7 +220,7 @@ void MaintenanceAgentsTest::theAgentAskedAboutMayBeFoundAgainMeanwhile()
     load();
     QVERIFY(agent("org.example.sync").id != asked.id);
     QVERIFY(m_model->agentToRemove() == asked);
-    m_home->processes->end(".plist", HeldProcesses::ending(0));
+    m_home->processes->end(".plist", TestProcessRunner::exited(0));
     m_model->removeAsked();
     QTRY_VERIFY(m_model->agents().empty());
     QVERIFY(isInTestTrash(host().environment, "org.example.sync.plist"));
@@ -256,7 +257,7 @@ void MaintenanceAgentsTest::finishesARemovalWhenTheScreenIsGone()
     m_model->remove(agent("org.example.sync"));
     QTRY_COMPARE(m_home->processes->started().size(), std::size_t{ 1 });
     m_model.reset();
-    m_home->processes->end(".plist", HeldProcesses::ending(0));
+    m_home->processes->end(".plist", TestProcessRunner::exited(0));
     drain();
     QVERIFY(isInTestTrash(host().environment, "org.example.sync.plist"));
 }

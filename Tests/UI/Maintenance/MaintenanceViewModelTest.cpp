@@ -91,7 +91,7 @@ void MaintenanceViewModelTest::runsATaskToItsEnd()
     QCOMPARE(process.arguments, arguments);
     QCoreApplication::processEvents();
     QVERIFY(state(MaintenanceTask::ReindexSpotlight) == TaskState::running());
-    m_home->processes->end("mdutil", HeldProcesses::ending(0, "a warning"));
+    m_home->processes->end("mdutil", TestProcessRunner::exited(0, "a warning"));
     QTRY_VERIFY(state(MaintenanceTask::ReindexSpotlight) == TaskState::done());
 }
 
@@ -111,11 +111,11 @@ void MaintenanceViewModelTest::twoTasksEndInEitherOrder()
     QVERIFY(state(MaintenanceTask::FreeRAM) == TaskState::running());
     QVERIFY(state(MaintenanceTask::FlushDNS) == TaskState::running());
     const auto endFreeRAM = [&] {
-        m_home->processes->end("purge", HeldProcesses::ending(0));
+        m_home->processes->end("purge", TestProcessRunner::exited(0));
         QTRY_VERIFY(state(MaintenanceTask::FreeRAM) == TaskState::done());
     };
     const auto endFlushDNS = [&] {
-        m_home->processes->end("dscacheutil", HeldProcesses::ending(1, "no\n"));
+        m_home->processes->end("dscacheutil", TestProcessRunner::exited(1, "no\n"));
         QTRY_VERIFY(state(MaintenanceTask::FlushDNS) == TaskState::failed(QStringLiteral("no")));
     };
     if (firstEndsFirst) {
@@ -135,21 +135,21 @@ void MaintenanceViewModelTest::twoTasksEndInEitherOrder()
 void MaintenanceViewModelTest::aFailureIsToldUntilTheTaskSucceeds()
 {
     m_model->run(MaintenanceTask::FlushDNS);
-    m_home->processes->end("dscacheutil", HeldProcesses::ending(1, "  User canceled. (-128)\n"));
+    m_home->processes->end("dscacheutil", TestProcessRunner::exited(1, "  User canceled. (-128)\n"));
     QTRY_VERIFY(state(MaintenanceTask::FlushDNS) == TaskState::failed(QStringLiteral("User canceled. (-128)")));
     m_model->run(MaintenanceTask::FlushDNS);
     QVERIFY(state(MaintenanceTask::FlushDNS) == TaskState::running());
-    m_home->processes->end("dscacheutil", HeldProcesses::ending(0));
+    m_home->processes->end("dscacheutil", TestProcessRunner::exited(0));
     QTRY_VERIFY(state(MaintenanceTask::FlushDNS) == TaskState::done());
 }
 
 void MaintenanceViewModelTest::aFailureMaySayNothing()
 {
     m_model->run(MaintenanceTask::FreeRAM);
-    m_home->processes->end("purge", HeldProcesses::ending(1));
+    m_home->processes->end("purge", TestProcessRunner::exited(1));
     QTRY_VERIFY(state(MaintenanceTask::FreeRAM) == TaskState::failed({}));
     m_model->run(MaintenanceTask::FreeRAM);
-    m_home->processes->end("purge", HeldProcesses::ending(1, "\xff\xfe"));
+    m_home->processes->end("purge", TestProcessRunner::exited(1, "\xff\xfe"));
     QTRY_VERIFY(state(MaintenanceTask::FreeRAM) == TaskState::failed(QStringLiteral("Unknown error")));
 }
 
@@ -162,10 +162,10 @@ void MaintenanceViewModelTest::everyPressOfTheSameTaskRunsIt()
     waitForStarts(5);
     QSignalSpy changes(m_model->taskRows(), &TaskListModel::dataChanged);
     for (int end = 0; end < 4; ++end)
-        m_home->processes->end("purge", HeldProcesses::ending(1, "busy"));
+        m_home->processes->end("purge", TestProcessRunner::exited(1, "busy"));
     QTRY_COMPARE(changes.count(), 4);
     QVERIFY(state(MaintenanceTask::FreeRAM) == TaskState::failed(QStringLiteral("busy")));
-    m_home->processes->end("purge", HeldProcesses::ending(0));
+    m_home->processes->end("purge", TestProcessRunner::exited(0));
     QTRY_VERIFY(state(MaintenanceTask::FreeRAM) == TaskState::done());
     QCOMPARE(m_model->taskStates().size(), std::size_t{ 1 });
 }
@@ -188,7 +188,7 @@ void MaintenanceViewModelTest::runsWhatTheScreenNamesAndNothingElse()
     QVERIFY(m_model->taskStates().empty());
     m_model->runTask(QStringLiteral("freeRAM"));
     QVERIFY(state(MaintenanceTask::FreeRAM) == TaskState::running());
-    m_home->processes->end("purge", HeldProcesses::ending(0));
+    m_home->processes->end("purge", TestProcessRunner::exited(0));
     QTRY_VERIFY(state(MaintenanceTask::FreeRAM) == TaskState::done());
     QCOMPARE(m_home->processes->started().size(), std::size_t{ 1 });
 }
@@ -210,7 +210,7 @@ void MaintenanceViewModelTest::aTaskOutlivesItsScreen()
     m_model->run(MaintenanceTask::FreeRAM);
     waitForStarts(1);
     m_model.reset();
-    m_home->processes->end("purge", HeldProcesses::ending(0));
+    m_home->processes->end("purge", TestProcessRunner::exited(0));
     m_home->waiting->threads().waitForDone();
     QCoreApplication::processEvents();
     QCOMPARE(m_home->processes->cancelled(), 0);

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Platform/Environment.h"
-#include "Tests/Support/TemporaryFolder.h"
+#include "Tests/Support/StandInProgram.h"
 
 #include <filesystem>
 #include <string>
@@ -23,15 +23,11 @@ public:
     {
         std::filesystem::create_directories(m_folder);
         const std::string there = "'" + m_folder.string() + "'";
-        writeFile(environment.scriptInterpreter,
-            "#!/bin/sh\n"
+        writeProgram(environment.scriptInterpreter,
             "case \"$2\" in *purge*) task=purge ;; *dscacheutil*) task=dscacheutil ;; *) task=mdutil ;; esac\n"
             "printf '%s %s\\n' \"$1\" \"$2\" >>"
                 + there + "/calls\necho $$ >" + there + "/$task.id\nwhile [ ! -e " + there
-                + "/$task ]; do sleep 0.02; done\n. " + there + "/$task\n");
-        std::filesystem::permissions(environment.scriptInterpreter,
-            std::filesystem::perms::owner_all | std::filesystem::perms::group_read | std::filesystem::perms::group_exec
-                | std::filesystem::perms::others_read | std::filesystem::perms::others_exec);
+                + "/$task ]; do sleep 0.02; done\n. " + there + "/$task");
     }
 
     /// From now on a task does this, lines for the plain shell; one that waits does it now.
