@@ -29,9 +29,10 @@ ListView {
     function moveTo(row: int): void {
         if (list.count === 0)
             return;
-        list.row = Math.max(0, Math.min(list.count - 1, row));
-        list.positionViewAtIndex(list.row, ListView.Contain);
-        const item = list.itemAtIndex(list.row);
+        const target = Math.max(0, Math.min(list.count - 1, row));
+        list.positionViewAtIndex(target, ListView.Contain);
+        list.row = target;
+        const item = list.itemAtIndex(target);
         if (item !== null)
             item.forceActiveFocus(list.byKeyboard ? Qt.TabFocusReason : Qt.OtherFocusReason);
     }
