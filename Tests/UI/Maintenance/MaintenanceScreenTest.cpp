@@ -6,7 +6,10 @@
 
 #include <QTest>
 
+#include <cerrno>
 #include <csignal>
+#include <string>
+#include <sys/types.h>
 
 using namespace Korvane;
 namespace fs = std::filesystem;
@@ -152,8 +155,10 @@ void MaintenanceScreenTest::endsWhatHangsWithTheApplication()
     QTest::qWait(100);
     QCOMPARE(::kill(process, 0), 0);
     m_app.reset();
-    QCOMPARE(::kill(process, 0), -1);
-    QCOMPARE(errno, ESRCH);
+    const int answer = ::kill(process, 0);
+    const int error = errno;
+    QCOMPARE(answer, -1);
+    QCOMPARE(error, ESRCH);
 }
 
 void MaintenanceScreenTest::removesAnAgentWithTheMouse()
