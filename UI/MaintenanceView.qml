@@ -17,6 +17,8 @@ FocusScope {
     Component.onCompleted: screen.viewModel.appear()
 
     AgentsPage {
+        id: page
+
         anchors.fill: parent
         focus: true
         viewModel: screen.viewModel
@@ -31,6 +33,10 @@ FocusScope {
         symbol: "trash"
         accent: Theme.red
         onAccepted: screen.viewModel.removeAsked()
-        onClosed: screen.viewModel.stopAsking()
+        onClosed: {
+            screen.viewModel.stopAsking();
+            // The row that had the keyboard may be gone by now.
+            page.moveTo(page.row);
+        }
     }
 }

@@ -25,8 +25,8 @@ Item {
         const top = control.mapToItem(page.contentItem, 0, 0).y - Theme.spacingHuge;
         const bottom = top + control.height + 2 * Theme.spacingHuge;
         const seen = Math.min(Math.max(page.contentY, bottom - page.height), top);
-        const last = page.originY + page.contentHeight - page.height;
-        page.contentY = Math.max(page.originY, Math.min(seen, last));
+        const last = page.originY + page.contentHeight + page.bottomMargin - page.height;
+        page.contentY = Math.max(page.originY - page.topMargin, Math.min(seen, last));
     }
     function holds(item: Item): bool {
         let above = item.parent;

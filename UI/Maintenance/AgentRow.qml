@@ -35,7 +35,6 @@ T.Control {
     leftPadding: row.margin + Theme.spacingLarge
     rightPadding: row.margin + Theme.spacing
     hoverEnabled: true
-    focusPolicy: Qt.ClickFocus
     Accessible.role: Accessible.ListItem
     Accessible.name: row.label
     Accessible.description: row.detail + ", " + row.domain

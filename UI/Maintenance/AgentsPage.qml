@@ -17,7 +17,7 @@ ListView {
     readonly property real margin: (list.width - Math.min(list.width - 2 * Theme.pageMargin, 1120)) / 2
     readonly property int rowHeight: 56
     readonly property int rowsPerPage: Math.max(1, Math.floor(list.height / list.rowHeight) - 1)
-    readonly property real headerHeight: list.headerItem === null ? 0 : list.headerItem.height
+    readonly property real startY: list.originY - list.topMargin
     /// The row that Tab leads to.
     property int row: 0
     /// Whether the keyboard was used last.
@@ -25,10 +25,12 @@ ListView {
     /// Whether the top of the page is to be seen.
     property bool atTop: true
 
-    /// Brings the keyboard to the row, or to the nearest that there is.
+    /// Brings the keyboard to the row, or to the nearest that there is; without any to the tasks.
     function moveTo(row: int): void {
-        if (list.count === 0)
+        if (list.count === 0) {
+            header.forceActiveFocus(Qt.OtherFocusReason);
             return;
+        }
         const target = Math.max(0, Math.min(list.count - 1, row));
         list.positionViewAtIndex(target, ListView.Contain);
         list.row = target;
@@ -78,7 +80,7 @@ ListView {
     // By itself a list keeps its rows in their places when what is above them grows.
     function stayAtTop(): void {
         if (list.atTop)
-            list.contentY = list.originY;
+            list.contentY = list.startY;
     }
 
     model: list.viewModel.agentRows
@@ -87,15 +89,17 @@ ListView {
     keyNavigationEnabled: false
     boundsBehavior: Flickable.StopAtBounds
     cacheBuffer: 640
+    // Not the list's own header and footer: those cannot be made of components that are bound.
+    topMargin: header.height
+    bottomMargin: Theme.spacingHuge + (list.count === 0 ? list.rowHeight : 0)
     clip: true
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Background items")
     T.ScrollBar.vertical: ScrollBar { }
 
-    onHeaderHeightChanged: settling.restart()
-    onOriginYChanged: settling.restart()
+    onStartYChanged: settling.restart()
     onContentYChanged: {
-        list.atTop = list.contentY <= list.originY + 1;
+        list.atTop = list.contentY <= list.startY + 1;
         // What Tab leads to must exist.
         if (list.count > 0 && list.itemAtIndex(list.row) === null)
             list.row = Math.max(0, list.indexAt(list.width / 2, list.contentY + list.height / 2));
@@ -106,22 +110,12 @@ ListView {
     }
     onActiveFocusChanged: settling.restart()
     Keys.onPressed: event => {
-        if (list.headerItem !== null && list.headerItem.activeFocus)
+        if (header.activeFocus)
             return;
         list.byKeyboard = true;
         event.accepted = list.takesKey(event.key);
     }
 
-    header: MaintenanceHeader {
-        width: list.width
-        margin: list.margin
-        viewModel: list.viewModel
-        focus: true
-    }
-    footer: Item {
-        width: list.width
-        height: Theme.spacingHuge + (list.count === 0 ? list.rowHeight : 0)
-    }
     delegate: AgentRow {
         id: agent
 
@@ -129,7 +123,7 @@ ListView {
         height: list.rowHeight
         margin: list.margin
         byKeyboard: list.byKeyboard
-        activeFocusOnTab: agent.index === list.row
+        focusPolicy: agent.activeFocus || agent.index === list.row ? Qt.StrongFocus : Qt.ClickFocus
         onActiveFocusChanged: {
             if (!agent.activeFocus)
                 return;
@@ -140,11 +134,22 @@ ListView {
         onRemovalRequested: list.viewModel.ask(agent.agentId)
     }
 
+    MaintenanceHeader {
+        id: header
+
+        parent: list.contentItem
+        y: list.startY
+        width: list.width
+        height: header.implicitHeight
+        margin: list.margin
+        viewModel: list.viewModel
+        focus: true
+    }
     Card {
         parent: list.contentItem
         z: -1
         x: list.margin
-        y: list.originY + list.headerHeight
+        y: list.originY
         width: list.width - 2 * list.margin
         height: Math.max(1, list.count) * list.rowHeight
         radius: Theme.radiusLarge

@@ -29,11 +29,13 @@ GridLayout {
         model: grid.viewModel.taskRows
 
         TaskCard {
+            id: card
+
             Layout.fillWidth: true
             Layout.fillHeight: true
             // The same for all, so that all become equally wide.
             Layout.preferredWidth: grid.minimumCardWidth
-            onRunRequested: grid.viewModel.runTask(taskId)
+            onRunRequested: grid.viewModel.runTask(card.taskId)
         }
     }
 }

@@ -35,7 +35,9 @@ void collect(QtMsgType type, const QMessageLogContext& context, const QString& t
 QmlWarnings::QmlWarnings()
 {
     collected.clear();
-    former = qInstallMessageHandler(collect);
+    // A set-up that failed may have left one that still collects.
+    const QtMessageHandler handler = qInstallMessageHandler(collect);
+    former = handler == collect ? former : handler;
 }
 
 QmlWarnings::~QmlWarnings() { qInstallMessageHandler(former); }
