@@ -18,7 +18,7 @@ namespace Korvane {
 /// Programs that a test plays: each waits until the test says how it ends, or until it is cancelled. Any thread.
 class HeldProcesses final : public ProcessRunner {
 public:
-    /// Lets one program end so whose last argument contains `part`: one that runs, else the next one.
+    /// Lets one program end so whose path or last argument contains `part`: one that runs, else the next one.
     void end(const std::string& part, ChildResult result)
     {
         const std::lock_guard lock(m_mutex);
@@ -44,9 +44,8 @@ public:
         std::unique_lock lock(m_mutex);
         m_started.push_back(process);
         for (;;) {
-            const auto ending = std::find_if(m_endings.begin(), m_endings.end(), [&](const auto& candidate) {
-                return process.arguments.back().find(candidate.first) != std::string::npos;
-            });
+            const auto ending = std::find_if(m_endings.begin(), m_endings.end(),
+                [&](const auto& candidate) { return isMeant(process, candidate.first); });
             if (ending != m_endings.end()) {
                 ChildResult result = std::move(ending->second);
                 m_endings.erase(ending);
@@ -61,6 +60,12 @@ public:
     }
 
 private:
+    static bool isMeant(const ChildProcess& process, const std::string& part)
+    {
+        const auto holds = [&part](const std::string& text) { return text.find(part) != std::string::npos; };
+        return holds(process.program.string()) || (!process.arguments.empty() && holds(process.arguments.back()));
+    }
+
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_changed;
     mutable std::vector<std::pair<std::string, ChildResult>> m_endings;

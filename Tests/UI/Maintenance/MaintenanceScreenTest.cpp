@@ -25,6 +25,7 @@ private Q_SLOTS:
     void endsWhatHangsWithTheApplication();
     void removesAnAgentWithTheMouse();
     void removesAnAgentFromTheKeyboard();
+    void leadsToTheTasksOnceNothingIsLeft();
     void puttingTheQuestionAwayRemovesNothing();
     void offersNoRemovalOfWhatIsTheSystems();
     void saysSoWhenThereIsNothing();
@@ -209,6 +210,23 @@ void MaintenanceScreenTest::removesAnAgentFromTheKeyboard()
     QCOMPARE(accessibleName(window()->activeFocusItem()), utf8("a.first"));
     key(Qt::Key_Up);
     QCOMPARE(window()->activeFocusItem(), runButton(2));
+}
+
+void MaintenanceScreenTest::leadsToTheTasksOnceNothingIsLeft()
+{
+    interpreter();
+    install(userAgents(), "org.example.only");
+    tabTo("Maintenance");
+    key(Qt::Key_Return);
+    QTRY_VERIFY(agentRow("org.example.only"));
+    tabTo("org.example.only");
+    key(Qt::Key_Delete);
+    QTRY_VERIFY(named("Move to Trash"));
+    tabTo("Move to Trash");
+    key(Qt::Key_Return);
+    QTRY_VERIFY(shows("Background Items (0)"));
+    // The one that had it last, on the way down.
+    QTRY_COMPARE(window()->activeFocusItem(), runButton(2));
 }
 
 void MaintenanceScreenTest::puttingTheQuestionAwayRemovesNothing()
