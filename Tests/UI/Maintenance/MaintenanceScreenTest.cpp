@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "Tests/UI/Maintenance/StandInInterpreter.h"
-#include "Tests/UI/Scan/ScanScreenFixture.h"
+#include "Tests/UI/Maintenance/MaintenanceScreenFixture.h"
 
 #include <QTest>
 
@@ -15,72 +14,19 @@ using namespace Korvane;
 namespace fs = std::filesystem;
 
 /// Tasks and background items in the real window, with an interpreter of the test's own and a real Trash.
-class MaintenanceScreenTest : public ScanScreenFixture {
+class MaintenanceScreenTest : public MaintenanceScreenFixture {
     Q_OBJECT
 
 private Q_SLOTS:
     void runsTasksAndTellsHowTheyStand();
     void quickPressesRunATaskOnce();
-    void runsTasksFromTheKeyboard();
     void endsWhatHangsWithTheApplication();
     void removesAnAgentWithTheMouse();
-    void removesAnAgentFromTheKeyboard();
-    void leadsToTheTasksOnceNothingIsLeft();
     void puttingTheQuestionAwayRemovesNothing();
     void offersNoRemovalOfWhatIsTheSystems();
     void saysSoWhenThereIsNothing();
-    void showsTheLastOfManyAgents();
     void comesBackAfresh();
-
-private:
-    void install(const fs::path& folder, const std::string& label) const;
-    fs::path userAgents() const { return home() / "Library/LaunchAgents"; }
-    fs::path systemAgents() const { return m_test->host.environment.machineLibrary / "LaunchAgents"; }
-    StandInInterpreter interpreter() const { return { m_test->host.environment, *m_folder / "told" }; }
-    /// The button of a task's card, in the order of the cards.
-    QQuickItem* runButton(int card) const { return controls(window(), QStringLiteral("Run")).value(card); }
-    void pressRun(int card) const;
-    /// The row of an agent, or the button in it; null when it cannot be seen.
-    QQuickItem* agentRow(const char* label) const;
-    QQuickItem* trashButton(const char* label) const;
-    static QQuickItem* itemIn(QQuickItem* item, const char* kind, const QString& name);
 };
-
-void MaintenanceScreenTest::install(const fs::path& folder, const std::string& label) const
-{
-    writeFile(folder / (label + ".plist"),
-        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict><key>Label</key><string>" + label
-            + "</string><key>Program</key><string>/opt/example/run</string></dict></plist>\n");
-}
-
-void MaintenanceScreenTest::pressRun(int card) const
-{
-    QTRY_VERIFY(runButton(card) && runButton(card)->isEnabled());
-    click(runButton(card));
-}
-
-QQuickItem* MaintenanceScreenTest::itemIn(QQuickItem* item, const char* kind, const QString& name)
-{
-    if (!item->isVisible())
-        return nullptr;
-    if (item->inherits(kind) && accessibleName(item) == name)
-        return item;
-    for (QQuickItem* child : item->childItems()) {
-        if (QQuickItem* found = itemIn(child, kind, name))
-            return found;
-    }
-    return nullptr;
-}
-
-QQuickItem* MaintenanceScreenTest::agentRow(const char* label) const
-{
-    return itemIn(window()->contentItem(), "QQuickControl", utf8(label));
-}
-
-QQuickItem* MaintenanceScreenTest::trashButton(const char* label) const
-{
-    return itemIn(window()->contentItem(), "QQuickButton", QStringLiteral("Remove ") + utf8(label));
-}
 
 void MaintenanceScreenTest::runsTasksAndTellsHowTheyStand()
 {
@@ -125,25 +71,6 @@ void MaintenanceScreenTest::quickPressesRunATaskOnce()
                     "privileges\n"));
 }
 
-void MaintenanceScreenTest::runsTasksFromTheKeyboard()
-{
-    const StandInInterpreter interpreter = this->interpreter();
-    interpreter.tell("purge", "exit 0");
-    tabTo("Maintenance");
-    key(Qt::Key_Return);
-    tabTo("Run");
-    QCOMPARE(window()->activeFocusItem(), runButton(0));
-    key(Qt::Key_Return);
-    QTRY_VERIFY(shows("Done"));
-    interpreter.tell("mdutil", "echo no index >&2; exit 3");
-    runButton(1)->forceActiveFocus(Qt::TabFocusReason);
-    key(Qt::Key_Tab);
-    QCOMPARE(window()->activeFocusItem(), runButton(2));
-    key(Qt::Key_Space);
-    QTRY_VERIFY(shows("no index"));
-    QVERIFY(interpreter.process("dscacheutil").empty());
-}
-
 void MaintenanceScreenTest::endsWhatHangsWithTheApplication()
 {
     const StandInInterpreter interpreter = this->interpreter();
@@ -183,52 +110,6 @@ void MaintenanceScreenTest::removesAnAgentWithTheMouse()
     QVERIFY(fs::exists(userAgents() / "org.example.update.plist"));
 }
 
-void MaintenanceScreenTest::removesAnAgentFromTheKeyboard()
-{
-    interpreter();
-    for (const char* label : { "a.first", "b.second", "c.third" })
-        install(userAgents(), label);
-    tabTo("Maintenance");
-    key(Qt::Key_Return);
-    QTRY_VERIFY(agentRow("c.third"));
-    tabTo("a.first");
-    key(Qt::Key_Down);
-    QCOMPARE(accessibleName(window()->activeFocusItem()), utf8("b.second"));
-    key(Qt::Key_End);
-    QCOMPARE(accessibleName(window()->activeFocusItem()), utf8("c.third"));
-    key(Qt::Key_Up);
-    key(Qt::Key_Delete);
-    QTRY_VERIFY(named("Move to Trash"));
-    tabTo("Move to Trash");
-    key(Qt::Key_Return);
-    QTRY_VERIFY(!agentRow("b.second") && agentRow("a.first") && agentRow("c.third"));
-    QVERIFY(isInTestTrash(m_test->host.environment, "b.second.plist"));
-    // The keyboard stays among the rows, and leads back to the tasks.
-    QTRY_VERIFY(window()->activeFocusItem()->inherits("QQuickControl"));
-    QTRY_VERIFY(accessibleName(window()->activeFocusItem()).contains(QLatin1Char('.')));
-    key(Qt::Key_Home);
-    QCOMPARE(accessibleName(window()->activeFocusItem()), utf8("a.first"));
-    key(Qt::Key_Up);
-    QCOMPARE(window()->activeFocusItem(), runButton(2));
-}
-
-void MaintenanceScreenTest::leadsToTheTasksOnceNothingIsLeft()
-{
-    interpreter();
-    install(userAgents(), "org.example.only");
-    tabTo("Maintenance");
-    key(Qt::Key_Return);
-    QTRY_VERIFY(agentRow("org.example.only"));
-    tabTo("org.example.only");
-    key(Qt::Key_Delete);
-    QTRY_VERIFY(named("Move to Trash"));
-    tabTo("Move to Trash");
-    key(Qt::Key_Return);
-    QTRY_VERIFY(shows("Background Items (0)"));
-    // The one that had it last, on the way down.
-    QTRY_COMPARE(window()->activeFocusItem(), runButton(2));
-}
-
 void MaintenanceScreenTest::puttingTheQuestionAwayRemovesNothing()
 {
     install(userAgents(), "org.example.sync");
@@ -266,23 +147,6 @@ void MaintenanceScreenTest::saysSoWhenThereIsNothing()
 {
     press("Maintenance");
     QTRY_VERIFY(shows("Background Items (0)"));
-}
-
-void MaintenanceScreenTest::showsTheLastOfManyAgents()
-{
-    for (int i = 1000; i < 3000; ++i)
-        install(userAgents(), "org.example.agent" + std::to_string(i));
-    press("Maintenance");
-    QTRY_VERIFY(shows("Background Items (2000)"));
-    QTRY_VERIFY(agentRow("org.example.agent1000"));
-    tabTo("org.example.agent1000");
-    key(Qt::Key_End);
-    QCOMPARE(accessibleName(window()->activeFocusItem()), utf8("org.example.agent2999"));
-    QQuickItem* last = window()->activeFocusItem();
-    QVERIFY(last->mapToScene(QPointF(0, last->height())).y() <= window()->height());
-    QVERIFY(!agentRow("org.example.agent2000"));
-    key(Qt::Key_Home);
-    QCOMPARE(accessibleName(window()->activeFocusItem()), utf8("org.example.agent1000"));
 }
 
 void MaintenanceScreenTest::comesBackAfresh()
