@@ -68,7 +68,8 @@ void drain(ChildConversation& conversation)
 /// How the conversation with a program came to its end.
 enum class Ending { OfItsOwn, Cancelled, OutOfTime };
 
-/// Talks until the program has ended, of its own accord or because it was ended, and its outputs are closed.
+/// Talks until the program has ended, of its own accord or because it was ended, and its outputs are closed; or until
+/// it was killed in vain.
 Ending converse(ChildConversation& conversation, const ProcessGroup& group, const Cancellation& cancellation,
     std::optional<Clock::time_point> limit)
 {
@@ -97,6 +98,8 @@ Ending converse(ChildConversation& conversation, const ProcessGroup& group, cons
         }
         if (lastDeadline && now >= *lastDeadline)
             group.kill();
+        if (lastDeadline && !end && now >= *lastDeadline + ProcessGroup::grace)
+            return ending;
     }
 }
 
@@ -111,6 +114,9 @@ ChildResult ChildProcess::run(const Cancellation& cancellation) const
     ProcessGroup group(child.id);
     ChildConversation conversation(child, input, outputLimit);
     const auto ending = converse(conversation, group, cancellation, limit);
+    // Only what was killed in vain lives on.
+    if (ending != Ending::OfItsOwn && !group.hasLeaderEnded())
+        group.abandon();
     const auto status = group.status();
     if (ending == Ending::Cancelled)
         throw CancellationError();

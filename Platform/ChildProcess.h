@@ -35,7 +35,8 @@ struct ChildProcess {
     /// a second. Any thread but the main one, which this would block.
     ///
     /// Throws FileError on the program when it cannot be started, and with std::errc::timed_out once it has been ended
-    /// for running too long; CancellationError once it has been ended for being cancelled.
+    /// for running too long; CancellationError once it has been ended for being cancelled. Both also four seconds after
+    /// that was tried in vain: what waits for a device, or has become an administrator's, ends by itself then.
     ChildResult run(const Cancellation& cancellation) const;
 };
 

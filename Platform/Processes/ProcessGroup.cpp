@@ -19,6 +19,7 @@ namespace {
 struct LivingGroups {
     std::mutex mutex;
     std::set<int> leaders;
+    std::set<int> abandoned; ///< The leaders that nobody waits for; their numbers stay taken until they are buried.
 };
 
 void endGroupsAtExit();
@@ -58,6 +59,12 @@ void endGroupsAtExit()
     groups.leaders.clear();
 }
 
+/// Takes the status of a leader that has ended; whether it has, or another took it.
+bool isBuried(int leader)
+{
+    return retryInterrupted([&] { return ::waitpid(leader, nullptr, WNOHANG); }) != 0;
+}
+
 } // namespace
 
 ProcessGroup::ProcessGroup(int leader)
@@ -65,15 +72,22 @@ ProcessGroup::ProcessGroup(int leader)
 {
     auto& groups = livingGroups();
     const std::lock_guard lock(groups.mutex);
+    std::erase_if(groups.abandoned, isBuried);
     groups.leaders.insert(leader);
 }
 
 ProcessGroup::~ProcessGroup()
 {
-    if (!m_isTaken) {
-        kill();
+    if (m_isTaken)
+        return;
+    kill();
+    const auto end = std::chrono::steady_clock::now() + grace;
+    while (!hasLeaderEnded() && std::chrono::steady_clock::now() < end)
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    if (hasLeaderEnded())
         status();
-    }
+    else
+        abandon();
 }
 
 bool ProcessGroup::hasLeaderEnded() const
@@ -89,6 +103,15 @@ bool ProcessGroup::hasLeaderEnded() const
 void ProcessGroup::terminate() const noexcept { ::kill(-m_leader, SIGTERM); }
 
 void ProcessGroup::kill() const noexcept { ::kill(-m_leader, SIGKILL); }
+
+void ProcessGroup::abandon()
+{
+    m_isTaken = true;
+    auto& groups = livingGroups();
+    const std::lock_guard lock(groups.mutex);
+    groups.leaders.erase(m_leader);
+    groups.abandoned.insert(m_leader);
+}
 
 std::optional<int> ProcessGroup::status()
 {

@@ -10,7 +10,8 @@ namespace Korvane {
 
 /// A child process that leads a group of its own, until the end of this object's life, when none of the group is left.
 ///
-/// Whatever groups live when this program exits are ended as well. One thread.
+/// Whatever groups live when this program exits are ended as well. A leader that cannot be ended is left alone, and
+/// buried once it has ended when the next group is made. One thread.
 class ProcessGroup {
 public:
     /// Takes the id of a child that has been started.
@@ -28,7 +29,11 @@ public:
     /// Waits for the leader and gives what waitpid(2) says of it; nothing when another has taken that.
     std::optional<int> status();
 
-    /// How long a group that was asked to end may take for it.
+    /// Leaves the leader to itself, alive or not.
+    void abandon();
+
+    /// How long a group that was asked to end may take for it, and again one that was killed: longer takes only what
+    /// cannot be killed, for it waits for a device or runs for an administrator.
     static constexpr std::chrono::milliseconds grace{ 2000 };
 
 private:

@@ -5,6 +5,7 @@
 
 #include "Platform/FileError.h"
 #include "Tests/Platform/Processes/HelperRuns.h"
+#include "Tests/Support/OrdinaryUser.h"
 #include "Tests/Support/TemporaryFolder.h"
 
 #include <cerrno>
@@ -13,6 +14,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <future>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -213,6 +215,58 @@ TEST_F(ChildProcessTest, EndsWhatRunsForTooLong)
     auto quick = helper({ "exit", "3" });
     quick.timeLimit = 60s;
     EXPECT_EQ(run(quick).exitStatus, 3);
+}
+
+/// What comes of cancelling, or of giving up for the time, a program that this process may not kill.
+std::string outcomeOfOutliving(
+    const std::filesystem::path& program, const std::filesystem::path& folder, bool isCancelled)
+{
+    auto process = helper({ "outlive", folder / "begun", folder / "end" });
+    process.program = program;
+    const auto descriptors = countDescriptors();
+    const auto begin = Clock::now();
+    const Cancellation cancellation;
+    if (!isCancelled)
+        process.timeLimit = 1s;
+    std::string outcome = "it ended";
+    std::thread run([&] {
+        try {
+            process.run(cancellation);
+        } catch (const CancellationError&) {
+            outcome = "cancelled";
+        } catch (const FileError& error) {
+            outcome = error.code() == std::errc::timed_out ? "out of time" : error.what();
+        }
+    });
+    const pid_t child = numberIn(folder / "begun");
+    if (isCancelled)
+        cancellation.cancel();
+    run.join();
+    outcome += Clock::now() - begin < 15s ? ", soon" : ", late";
+    outcome += ::kill(child, 0) != 0 && errno == EPERM ? ", alive" : ", ended";
+    outcome += countDescriptors() == descriptors ? "" : ", descriptors left";
+    writeFile(folder / "end", "");
+    siginfo_t information{};
+    ::waitid(P_PID, static_cast<id_t>(child), &information, WEXITED | WNOWAIT);
+    // Whatever is run next buries it.
+    Korvane::run(helper({ "exit", "0" }));
+    return outcome + (hasNoChild() ? ", buried" : ", a zombie");
+}
+
+TEST_F(ChildProcessTest, GivesUpWhatItCannotKillAndBuriesItLater)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "needs root's right to make a program that an ordinary user cannot kill";
+    for (const bool isCancelled : { true, false }) {
+        const TemporaryFolder folder;
+        const auto program = folder / "program";
+        std::filesystem::copy_file(KORVANE_HELPER_PROGRAM, program);
+        giveToOrdinaryUser(folder.path());
+        ASSERT_EQ(::chown(program.c_str(), 0, 0), 0);
+        ASSERT_EQ(::chmod(program.c_str(), 04755), 0);
+        EXPECT_EQ(runAsOrdinaryUser([&] { return outcomeOfOutliving(program, folder.path(), isCancelled); }),
+            std::string(isCancelled ? "cancelled" : "out of time") + ", soon, alive, buried");
+    }
 }
 
 TEST_F(ChildProcessTest, StartsNothingThatWasCancelledBefore)

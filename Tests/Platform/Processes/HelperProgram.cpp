@@ -101,6 +101,18 @@ int sleepForEver(const Arguments& arguments)
     waitForEver();
 }
 
+/// Becomes the administrator's, when its file's mode allows that, and lives until a file is there.
+int outlive(const Arguments& arguments)
+{
+    if (::setuid(0) != 0)
+        return 1;
+    const int file = ::open(arguments.at(0).c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
+    writeAll(file, std::to_string(::getpid()) + "\n");
+    while (::access(arguments.at(1).c_str(), F_OK) != 0)
+        ::usleep(5000);
+    return 0;
+}
+
 int tellDescriptors(const Arguments&)
 {
     for (int descriptor = 0; descriptor < 1024; ++descriptor)
@@ -140,8 +152,8 @@ int main(int count, char** values)
     Arguments arguments(values + 1, values + count);
     const std::map<std::string, std::function<int(const Arguments&)>> deeds{ { "flood", flood }, { "echo", echo },
         { "close-early", closeEarly }, { "leave-sleeper", leaveSleeper }, { "sleep", sleepForEver },
-        { "descriptors", tellDescriptors }, { "signals", tellSignals }, { "arguments", tellArguments },
-        { "exit", [](const auto& rest) { return std::stoi(rest.at(0)); } },
+        { "outlive", outlive }, { "descriptors", tellDescriptors }, { "signals", tellSignals },
+        { "arguments", tellArguments }, { "exit", [](const auto& rest) { return std::stoi(rest.at(0)); } },
         { "die", [](const auto& rest) { return ::raise(std::stoi(rest.at(0))); } } };
     const auto deed = arguments.empty() ? deeds.end() : deeds.find(arguments[0]);
     if (deed == deeds.end())
