@@ -90,12 +90,14 @@ ExitStatus Program::removeAgent(const CommandLine& line) const
         return ExitStatus::Done;
     }
     m_cancellation.throwIfCancelled();
-    const auto failure = removeLaunchAgent(agent, m_host);
+    const auto failure = removeLaunchAgent(agent, m_host, m_cancellation);
+    // A removal that has begun is finished; only the wait for the service manager is given up.
+    const auto status = failure && m_cancellation.isCancelled() ? ExitStatus::Cancelled : statusOf(failure);
     if (isJson)
         print(removalResultAsJson(agent, failure));
     else
-        tell(removalResultAsText(agent, failure), statusOf(failure));
-    return statusOf(failure);
+        tell(removalResultAsText(agent, failure), status);
+    return status;
 }
 
 } // namespace Korvane

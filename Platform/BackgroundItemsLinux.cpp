@@ -112,7 +112,7 @@ std::optional<ChildProcess> unitStop(const std::filesystem::path& unit, const En
         return std::nullopt;
     ChildProcess stop;
     stop.program = manager;
-    stop.arguments = { "--user", "disable", "--now" };
+    stop.arguments = { "--user", "disable", "--now", "--" };
     const auto names = UserUnits(ownFolders(Kind::SystemdUnit, environment), {}).runningNames(unit);
     stop.arguments.insert(stop.arguments.end(), names.begin(), names.end());
     // By default a unit is given 90 seconds to stop before it is killed (systemd-system.conf(5)).

@@ -44,13 +44,22 @@ std::optional<std::filesystem::path> baseDirectory(const char* name)
     return path;
 }
 
-/// The absolute ones among the paths that a variable names with colons between them.
-std::vector<std::filesystem::path> absolutePathsIn(const char* name)
+/// What a variable names with colons between.
+std::vector<std::string> namesIn(const char* variable)
 {
-    const char* value = std::getenv(name);
-    std::istringstream names(value != nullptr ? value : "");
+    const char* value = std::getenv(variable);
+    std::istringstream list(value != nullptr ? value : "");
+    std::vector<std::string> names;
+    for (std::string name; std::getline(list, name, ':');)
+        names.push_back(name);
+    return names;
+}
+
+/// The absolute ones among the paths that a variable names.
+std::vector<std::filesystem::path> absolutePathsIn(const char* variable)
+{
     std::vector<std::filesystem::path> paths;
-    for (std::string path; std::getline(names, path, ':');) {
+    for (const auto& path : namesIn(variable)) {
         if (path.starts_with('/'))
             paths.emplace_back(withoutTrailingSlashes(path));
     }
@@ -80,6 +89,7 @@ Environment Environment::current()
     environment.xdgStateHome = baseDirectory("XDG_STATE_HOME");
     if (auto folders = absolutePathsIn("XDG_CONFIG_DIRS"); !folders.empty())
         environment.xdgConfigDirs = std::move(folders);
+    environment.currentDesktops = namesIn("XDG_CURRENT_DESKTOP");
     environment.userId = ::getuid();
     return environment;
 }

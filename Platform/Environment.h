@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace Korvane {
@@ -35,6 +36,8 @@ struct Environment {
     std::vector<std::filesystem::path> programFolders = { "/usr/bin", "/bin", "/usr/sbin", "/sbin" };
     /// XDG_CONFIG_DIRS without its relative entries; "/etc/xdg" when it names none. The first counts most.
     std::vector<std::filesystem::path> xdgConfigDirs = { "/etc/xdg" };
+    /// The desktops that run, XDG_CURRENT_DESKTOP with colons between them; none when it is not set.
+    std::vector<std::string> currentDesktops;
     /// The number of this user.
     unsigned int userId = 0;
 

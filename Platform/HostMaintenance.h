@@ -19,6 +19,8 @@ enum class HostTask { DropPageCache, FlushResolver, RebuildSearchIndex };
 struct HostMeans {
     std::vector<ChildProcess> steps; ///< Run one after the other, until one fails; empty when something is missing.
     std::string missing; ///< What is missing, in words for the user; empty when the steps can be run.
+    std::vector<ChildProcess>
+        favours; ///< Run once the steps have succeeded; the task is done whatever becomes of them.
 };
 
 /// The means of this machine, every program by its absolute path in one of Environment::programFolders. What needs an

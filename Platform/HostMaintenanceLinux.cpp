@@ -7,7 +7,9 @@
 #include "Platform/Processes/InstalledProgram.h"
 #include "Platform/TrimmedText.h"
 
+#include <algorithm>
 #include <array>
+#include <chrono>
 #include <string_view>
 #include <utility>
 
@@ -38,7 +40,7 @@ ChildProcess privileged(
     return call(tool, std::move(arguments));
 }
 
-HostMeans missing(std::string text) { return { {}, std::move(text) }; }
+HostMeans missing(std::string text) { return { {}, std::move(text), {} }; }
 
 HostMeans withoutAdministrator() { return missing("pkexec is missing, which asks for an administrator's password"); }
 
@@ -52,7 +54,7 @@ HostMeans pageCacheMeans(const std::vector<std::filesystem::path>& folders, cons
     if (administrator.empty())
         return withoutAdministrator();
     // The page cache alone is 1 (proc_sys_vm(5), drop_caches).
-    return { { call(sync, {}), privileged(administrator, sysctl, { "-q", "vm.drop_caches=1" }) }, {} };
+    return { { call(sync, {}), privileged(administrator, sysctl, { "-q", "vm.drop_caches=1" }) }, {}, {} };
 }
 
 HostMeans resolverMeans(const std::vector<std::filesystem::path>& folders, const std::filesystem::path& administrator)
@@ -62,21 +64,52 @@ HostMeans resolverMeans(const std::vector<std::filesystem::path>& folders, const
         return missing(nothingToFlush);
     if (administrator.empty())
         return withoutAdministrator();
-    return { { privileged(administrator, resolver, { "flush-caches" }) }, {} };
+    return { { privileged(administrator, resolver, { "flush-caches" }) }, {}, {} };
 }
 
-/// The search of GNOME, under both its names, then that of KDE.
-HostMeans searchIndexMeans(const std::vector<std::filesystem::path>& folders)
+/// What has the indexer of localsearch begin anew at once. Its own command for that went with version 3.10; without
+/// either the desktop starts the indexer at the next login.
+ChildProcess indexerStart(const std::vector<std::filesystem::path>& folders, const std::filesystem::path& localsearch)
 {
-    for (const char* const name : { "localsearch", "tracker3" }) {
-        if (const auto tool = installedProgram(folders, name); !tool.empty())
-            return { { call(tool, { "reset", "--filesystem" }), call(tool, { "daemon", "--start" }) }, {} };
-    }
+    const auto manager = installedProgram(folders, "systemctl");
+    auto start = manager.empty() ? call(localsearch, { "daemon", "--start" })
+                                 : call(manager, { "--user", "start", "localsearch-3.service" });
+    // By default a unit is given 90 seconds to start (systemd-system.conf(5)).
+    start.timeLimit = std::chrono::minutes(2);
+    return start;
+}
+
+/// The search of GNOME, under both its names.
+std::optional<HostMeans> gnomeIndexMeans(const std::vector<std::filesystem::path>& folders)
+{
+    const std::vector<std::string> reset{ "reset", "--filesystem" };
+    if (const auto tool = installedProgram(folders, "localsearch"); !tool.empty())
+        return HostMeans{ { call(tool, reset) }, {}, { indexerStart(folders, tool) } };
+    if (const auto tool = installedProgram(folders, "tracker3"); !tool.empty())
+        return HostMeans{ { call(tool, reset), call(tool, { "daemon", "--start" }) }, {}, {} };
+    return std::nullopt;
+}
+
+/// The search of KDE, under both its names.
+std::optional<HostMeans> kdeIndexMeans(const std::vector<std::filesystem::path>& folders)
+{
     for (const char* const name : { "balooctl6", "balooctl" }) {
         if (const auto tool = installedProgram(folders, name); !tool.empty())
-            return { { call(tool, { "purge" }) }, {} };
+            return HostMeans{ { call(tool, { "purge" }) }, {}, {} };
     }
-    return missing("No search index is installed (localsearch, tracker3 or balooctl)");
+    return std::nullopt;
+}
+
+/// Where the searches of both desktops are installed, that of the one that runs.
+HostMeans searchIndexMeans(const Environment& environment)
+{
+    const auto& folders = environment.programFolders;
+    const auto& desktops = environment.currentDesktops;
+    const bool isKde = std::find(desktops.begin(), desktops.end(), "KDE") != desktops.end();
+    auto means = isKde ? kdeIndexMeans(folders) : gnomeIndexMeans(folders);
+    if (!means)
+        means = isKde ? gnomeIndexMeans(folders) : kdeIndexMeans(folders);
+    return means ? *means : missing("No search index is installed (localsearch, tracker3 or balooctl)");
 }
 
 /// What a program that failed has to say for itself, on one line; empty when nothing.
@@ -87,6 +120,16 @@ std::string complaint(const ChildResult& result)
 }
 
 bool says(const std::string& text, std::string_view words) { return text.find(words) != std::string::npos; }
+
+/// Whether resolvectl found no service to talk to, rather than one that failed: in the words of systemd, which has no
+/// such unit or has it masked, of dbus-daemon and of dbus-broker. None of them is translated.
+bool lacksResolver(const std::string& text)
+{
+    constexpr std::array absences{ "org.freedesktop.resolve1.service not found",
+        "org.freedesktop.resolve1.service is masked", "org.freedesktop.resolve1 was not provided by any .service files",
+        "'org.freedesktop.resolve1': activation request failed: unknown unit", "The name is not activatable" };
+    return std::any_of(absences.begin(), absences.end(), [&](const char* words) { return says(text, words); });
+}
 
 /// Its texts are never translated.
 std::optional<std::string> refusal(const ChildResult& result, const std::string& text)
@@ -114,7 +157,7 @@ std::optional<HostMeans> hostMeans(HostTask task, const Environment& environment
     case HostTask::FlushResolver:
         return resolverMeans(folders, administrator);
     case HostTask::RebuildSearchIndex:
-        return searchIndexMeans(folders);
+        return searchIndexMeans(environment);
     }
     return std::nullopt;
 }
@@ -126,7 +169,7 @@ std::string hostFailure(const ChildProcess& step, const ChildResult& result)
         if (auto reason = refusal(result, text))
             return *reason;
         // The resolver's tool is there, but not the service that it talks to.
-        if (says(text, "org.freedesktop.resolve1"))
+        if (lacksResolver(text))
             return nothingToFlush;
     }
     if (!text.empty())

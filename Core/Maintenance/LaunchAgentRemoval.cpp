@@ -9,6 +9,7 @@
 #include "Platform/TrimmedText.h"
 
 #include <algorithm>
+#include <chrono>
 #include <system_error>
 #include <vector>
 
@@ -55,34 +56,64 @@ bool isInItsFolder(const LaunchAgent& agent, const Host& host)
         && std::any_of(folders.begin(), folders.end(), [&](const auto& folder) { return agent.url == folder / name; });
 }
 
-/// What the service manager says does not count: it knows only what it has been given.
-void bootOut(const LaunchAgent& agent, const Host& host)
+/// What kept a service manager from ending by itself, in words; empty when it did, and when it could not be started.
+/// Fills in what it said.
+std::string runManager(
+    const ChildProcess& manager, const Host& host, const Cancellation& cancellation, ChildResult& result)
+{
+    try {
+        result = host.processes->run(manager, cancellation);
+        return "";
+    } catch (const CancellationError&) {
+        return "stopping it was cancelled";
+    } catch (const FileError& error) {
+        if (error.code() == std::errc::timed_out)
+            return displayText(manager.program.filename()) + " took too long";
+        result.errorOutput.text = error.localizedDescription();
+        return "";
+    }
+}
+
+/// What kept a property list from being taken from the service manager. What the manager says does not count: it knows
+/// only what it has been given; nor that a host has none.
+std::string bootOut(const LaunchAgent& agent, const Host& host, const Cancellation& cancellation)
 {
     ChildProcess manager;
     manager.program = host.environment.serviceManager;
     manager.arguments = { "bootout", "gui/" + std::to_string(host.environment.userId), agent.url.native() };
-    try {
-        host.processes->run(manager, {});
-    } catch (const FileError&) {
-        // A host that has no such manager has nothing to take from it.
-    }
+    // As long as a unit is given.
+    manager.timeLimit = std::chrono::minutes(3);
+    ChildResult result;
+    return runManager(manager, host, cancellation, result);
 }
 
 /// What kept a unit from being stopped, in words; empty when nothing did.
-std::string stopUnit(const LaunchAgent& agent, const Host& host)
+std::string stopUnit(const LaunchAgent& agent, const Host& host, const Cancellation& cancellation)
 {
-    const auto stop = unitStop(agent.url, host.environment);
-    if (!stop)
+    const auto manager = unitStop(agent.url, host.environment);
+    if (!manager)
         return "systemctl is missing";
-    try {
-        const auto result = host.processes->run(*stop, {});
-        const auto text = trimmedText(result.errorOutput.text);
-        if (result.hasSucceeded())
-            return "";
-        return text.empty() ? "systemctl failed" : displayText(text);
-    } catch (const FileError& error) {
-        return error.localizedDescription();
+    ChildResult result;
+    if (auto unended = runManager(*manager, host, cancellation, result); !unended.empty())
+        return unended;
+    if (result.hasSucceeded())
+        return "";
+    const auto text = trimmedText(result.errorOutput.text);
+    return text.empty() ? "systemctl failed" : displayText(text);
+}
+
+/// What kept an item from being stopped, in words; empty when nothing did, or nothing of it is to be stopped.
+std::string stop(const LaunchAgent& agent, const Host& host, const Cancellation& cancellation)
+{
+    switch (agent.kind) {
+    case Kind::PropertyList:
+        return bootOut(agent, host, cancellation);
+    case Kind::SystemdUnit:
+        return stopUnit(agent, host, cancellation);
+    case Kind::Autostart:
+        break;
     }
+    return "";
 }
 
 /// What kept a file from going to the Trash, in words; empty when nothing did.
@@ -101,15 +132,14 @@ std::string trash(const LaunchAgent& agent, const Host& host)
 
 } // namespace
 
-std::optional<std::string> removeLaunchAgent(const LaunchAgent& agent, const Host& host)
+std::optional<std::string> removeLaunchAgent(
+    const LaunchAgent& agent, const Host& host, const Cancellation& cancellation)
 {
     if (!agent.removable())
         return std::nullopt;
     if (!isInItsFolder(agent, host))
         return FileError(agent.url, std::make_error_code(std::errc::operation_not_permitted)).localizedDescription();
-    if (agent.kind == Kind::PropertyList)
-        bootOut(agent, host);
-    const auto unstopped = agent.kind == Kind::SystemdUnit ? stopUnit(agent, host) : std::string();
+    const auto unstopped = stop(agent, host, cancellation);
     const auto kept = trash(agent, host);
     if (!kept.empty())
         return "not moved to the Trash: " + kept;

@@ -4,10 +4,12 @@
 #include "Core/Maintenance/MaintenanceRunner.h"
 
 #include "Platform/DisplayText.h"
+#include "Platform/FileError.h"
 #include "Platform/HostMaintenance.h"
 #include "Platform/TrimmedText.h"
 
 #include <cstdlib>
+#include <utility>
 
 namespace Korvane {
 
@@ -34,17 +36,39 @@ std::optional<HostMeans> ownMeans(MaintenanceTask task, const Host& host)
     return hostMeans(hostTask(task), host.environment);
 }
 
+/// Runs a program for a task; of what it says only so much is kept, cut between two characters.
+ChildResult runStep(ChildProcess step, const Host& host, const Cancellation& cancellation)
+{
+    step.outputLimit = MaintenanceRunner::longestMessage;
+    auto result = host.processes->run(step, cancellation);
+    auto& text = result.errorOutput.text;
+    // A character of UTF-8 has at most three bytes behind its first.
+    for (int count = 0; count < 3 && result.errorOutput.isTruncated && !isValidUtf8(text); ++count)
+        text.pop_back();
+    return result;
+}
+
 void runByInterpreter(MaintenanceTask task, const Host& host, const Cancellation& cancellation)
 {
     ChildProcess interpreter;
     interpreter.program = host.environment.scriptInterpreter;
     interpreter.arguments
         = { "-e", "do shell script \"" + std::string(shellCommand(task)) + "\" with administrator privileges" };
-    const auto result = host.processes->run(interpreter, cancellation);
+    const auto result = runStep(std::move(interpreter), host, cancellation);
     if (result.hasSucceeded())
         return;
     const auto& text = result.errorOutput.text;
     throw MaintenanceRunner::RunError(isValidUtf8(text) ? std::string(trimmedText(text)) : "Unknown error");
+}
+
+/// Runs what a task does not depend on.
+void runFavour(const ChildProcess& favour, const Host& host, const Cancellation& cancellation)
+{
+    try {
+        runStep(favour, host, cancellation);
+    } catch (const FileError&) {
+        // What cannot be started, or does not end, leaves the task as done as it was.
+    }
 }
 
 } // namespace
@@ -64,10 +88,12 @@ void MaintenanceRunner::run(MaintenanceTask task, const Host& host, const Cancel
     if (!means->missing.empty())
         throw RunError(means->missing);
     for (const auto& step : means->steps) {
-        const auto result = host.processes->run(step, cancellation);
+        const auto result = runStep(step, host, cancellation);
         if (!result.hasSucceeded())
             throw RunError(hostFailure(step, result));
     }
+    for (const auto& favour : means->favours)
+        runFavour(favour, host, cancellation);
 }
 
 std::optional<std::string> MaintenanceRunner::missingMeans(MaintenanceTask task, const Host& host)

@@ -7,6 +7,7 @@
 #include "Platform/Cancellation.h"
 #include "Platform/Host.h"
 
+#include <cstddef>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -18,8 +19,11 @@ class MaintenanceRunner {
 public:
     MaintenanceRunner() = delete;
 
-    /// A task that ran and failed, or that the user did not allow. `what()` is the message as it is shown, UTF-8; it
-    /// is empty when the program that failed said nothing.
+    /// How many bytes are kept of what a program says; the rest is dropped. Far more than anybody reads.
+    static constexpr std::size_t longestMessage = 64 * 1024;
+
+    /// A task that ran and failed, or that the user did not allow. `what()` is the message as it is shown, UTF-8, whole
+    /// up to `longestMessage`; it is empty when the program that failed said nothing.
     class RunError : public std::runtime_error {
     public:
         explicit RunError(const std::string& message);

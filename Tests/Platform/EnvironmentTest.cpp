@@ -93,7 +93,21 @@ TEST(Environment, FindsWhatMaintenanceNeedsWhereThePlatformHasIt)
     EXPECT_EQ(environment.scriptInterpreter, "/usr/bin/osascript");
     EXPECT_EQ(environment.serviceManager, "/bin/launchctl");
     EXPECT_EQ(environment.machineLibrary, "/Library");
+    // What stands here runs with an administrator's rights.
+    EXPECT_EQ(
+        environment.programFolders, (std::vector<std::filesystem::path>{ "/usr/bin", "/bin", "/usr/sbin", "/sbin" }));
     EXPECT_EQ(environment.userId, ::getuid());
+}
+
+TEST(Environment, TellsTheDesktopsThatRun)
+{
+    using Names = std::vector<std::string>;
+    {
+        const EnvironmentVariable desktops("XDG_CURRENT_DESKTOP", "ubuntu:GNOME");
+        EXPECT_EQ(Environment::current().currentDesktops, (Names{ "ubuntu", "GNOME" }));
+    }
+    const EnvironmentVariable none("XDG_CURRENT_DESKTOP", std::nullopt);
+    EXPECT_EQ(Environment::current().currentDesktops, Names());
 }
 
 TEST(Environment, TakesTheAbsoluteOnesOfTheSharedSettingsFolders)
@@ -142,6 +156,7 @@ TEST(Environment, InAFolderKeepsEverythingInsideIt)
     EXPECT_EQ(environment.machineLibrary, folder / "Library");
     EXPECT_EQ(environment.programFolders, (std::vector<std::filesystem::path>{ folder / "bin" }));
     EXPECT_EQ(environment.xdgConfigDirs, (std::vector<std::filesystem::path>{ folder / "xdg" }));
+    EXPECT_TRUE(environment.currentDesktops.empty());
     EXPECT_EQ(environment.userId, ::getuid());
     EXPECT_TRUE(std::filesystem::is_directory(environment.home));
     EXPECT_TRUE(std::filesystem::is_directory(environment.temporaryDirectory));

@@ -41,7 +41,7 @@ TEST_F(HostAgentRemovalTest, UnitIsDisabledAndStoppedBeforeItsFileGoes)
     writeManager(
         "[ -e '" + url.native() + "' ] && rm '" + unitsFolder().native() + "/default.target.wants/backup.service'");
     EXPECT_EQ(removeLaunchAgent(agentAt(url), host()), std::nullopt);
-    EXPECT_EQ(calls(), "--user disable --now backup.service ");
+    EXPECT_EQ(calls(), "--user disable --now -- backup.service ");
     EXPECT_TRUE(isInTrash("backup.service"));
     EXPECT_EQ(other.difference(), "");
     EXPECT_TRUE(scanAgents().empty());
@@ -56,7 +56,7 @@ TEST_F(HostAgentRemovalTest, AllInstancesOfATemplateAreStopped)
         std::filesystem::create_symlink(unitsFolder() / "sync@.service", links / name);
     writeManager("exit 0");
     EXPECT_EQ(removeLaunchAgent(agentAt(unitsFolder() / "sync@.service"), host()), std::nullopt);
-    EXPECT_EQ(calls(), "--user disable --now sync@home.service sync@work.service ");
+    EXPECT_EQ(calls(), "--user disable --now -- sync@home.service sync@work.service ");
 }
 
 TEST_F(HostAgentRemovalTest, UnitThatCannotBeStoppedGoesAllTheSameAndSaysSo)
@@ -70,6 +70,16 @@ TEST_F(HostAgentRemovalTest, UnitThatCannotBeStoppedGoesAllTheSameAndSaysSo)
     url = makeUnit("second.service");
     EXPECT_EQ(removeLaunchAgent(agentAt(url), host()), begin + "systemctl is missing");
     EXPECT_TRUE(isInTrash("second.service"));
+}
+
+TEST_F(HostAgentRemovalTest, ManagerThatHangsIsEndedByACancelAndTheFileGoesAllTheSame)
+{
+    const auto url = makeUnit("slow.service");
+    const auto agent = agentAt(url);
+    writeManager(": > '" + (folder() / "begun").native() + "'; exec sleep 600");
+    EXPECT_EQ(removalThatIsCancelled(agent),
+        "moved to the Trash, but it may still run until the next login: stopping it was cancelled");
+    EXPECT_TRUE(isInTrash("slow.service"));
 }
 
 TEST_F(HostAgentRemovalTest, LinkThatDisablingTookAwayIsNoFailure)

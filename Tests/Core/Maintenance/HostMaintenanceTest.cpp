@@ -63,6 +63,63 @@ TEST_F(HostMaintenanceTest, SearchIndexIsRebuiltWithoutAnyRights)
     }
 }
 
+TEST_F(HostMaintenanceTest, IndexerIsStartedByItsUnitWhereThereIsAManager)
+{
+    install({ "localsearch", "systemctl" });
+    const auto& runner = recordRuns();
+    EXPECT_EQ(failure(MaintenanceTask::ReindexSpotlight), std::nullopt);
+    EXPECT_EQ(runner.calls(),
+        (std::vector<Call>{ { path("localsearch"), "reset", "--filesystem" },
+            { path("systemctl"), "--user", "start", "localsearch-3.service" } }));
+}
+
+TEST_F(HostMaintenanceTest, IndexIsRebuiltAlsoWhenTheIndexerDoesNotBeginAtOnce)
+{
+    install({ "localsearch" }, "[ \"$1\" = reset ] || { echo 'unknown command' >&2; exit 1; }");
+    EXPECT_EQ(failure(MaintenanceTask::ReindexSpotlight), std::nullopt);
+    install({ "systemctl" }, "exit 5");
+    EXPECT_EQ(failure(MaintenanceTask::ReindexSpotlight), std::nullopt);
+    writeFile(program("systemctl"), "#!/no/such/shell\n");
+    EXPECT_EQ(failure(MaintenanceTask::ReindexSpotlight), std::nullopt);
+    install({ "localsearch" }, "echo 'index is busy' >&2; exit 1");
+    EXPECT_EQ(failure(MaintenanceTask::ReindexSpotlight), "The command failed: index is busy");
+}
+
+TEST_F(HostMaintenanceTest, IndexOfTheDesktopThatRunsIsRebuilt)
+{
+    install({ "localsearch", "balooctl6" });
+    const auto toolFor = [this](const std::vector<std::string>& desktops) {
+        host().environment.currentDesktops = desktops;
+        const auto& runner = recordRuns();
+        EXPECT_EQ(failure(MaintenanceTask::ReindexSpotlight), std::nullopt);
+        return runner.calls().front().front();
+    };
+    EXPECT_EQ(toolFor({ "KDE" }), path("balooctl6"));
+    EXPECT_EQ(toolFor({ "neon", "KDE" }), path("balooctl6"));
+    EXPECT_EQ(toolFor({ "ubuntu", "GNOME" }), path("localsearch"));
+    EXPECT_EQ(toolFor({}), path("localsearch"));
+    std::filesystem::remove(program("balooctl6"));
+    EXPECT_EQ(toolFor({ "KDE" }), path("localsearch"));
+}
+
+TEST_F(HostMaintenanceTest, OnlyAResolverThatIsNotThereHasNothingToFlush)
+{
+    install({ "resolvectl" });
+    const auto saying = [this](const std::string& words) {
+        install({ "pkexec" }, "cat >&2 <<'END'\nFailed to flush caches: " + words + "\nEND\nexit 1");
+        return failure(MaintenanceTask::FlushDNS).value_or("done");
+    };
+    for (const char* absence : { "Unit dbus-org.freedesktop.resolve1.service not found.",
+             "Unit dbus-org.freedesktop.resolve1.service is masked.",
+             "The name org.freedesktop.resolve1 was not provided by any .service files", "The name is not activatable",
+             "Could not activate remote peer 'org.freedesktop.resolve1': activation request failed: unknown unit" })
+        EXPECT_EQ(saying(absence), "There is nothing to flush: this machine keeps no DNS cache") << absence;
+    for (const std::string trouble :
+        { "Failed to activate service 'org.freedesktop.resolve1': timed out (service_start_timeout=25000ms)",
+            "Could not activate remote peer 'org.freedesktop.resolve1': unit failed" })
+        EXPECT_EQ(saying(trouble), "The command failed: Failed to flush caches: " + trouble);
+}
+
 TEST_F(HostMaintenanceTest, WhatIsMissingIsNamedAndNothingIsRun)
 {
     const auto& runner = recordRuns();
@@ -104,7 +161,7 @@ TEST_F(HostMaintenanceTest, DismissedMissingAndFailedSayThreeDifferentThings)
 
 TEST_F(HostMaintenanceTest, OtherFailuresAreToldApartToo)
 {
-    install({ "sync", "sysctl", "resolvectl" });
+    install({ "sync", "sysctl" });
     install({ "pkexec" }, "printf 'Error executing command as another user: Not authorized\\n\\n' >&2; exit 127");
     EXPECT_EQ(failure(MaintenanceTask::FreeRAM), "An administrator's rights were not given; nothing was changed");
     install({ "pkexec" }, "echo 'Error getting authority: no bus' >&2; exit 127");
@@ -114,8 +171,6 @@ TEST_F(HostMaintenanceTest, OtherFailuresAreToldApartToo)
     EXPECT_EQ(failure(MaintenanceTask::FreeRAM), "The command failed with status 7");
     install({ "pkexec" }, "kill -9 $$");
     EXPECT_EQ(failure(MaintenanceTask::FreeRAM), "The command was ended by signal 9");
-    install({ "pkexec" }, "echo 'Unit dbus-org.freedesktop.resolve1.service not found.' >&2; exit 1");
-    EXPECT_EQ(failure(MaintenanceTask::FlushDNS), "There is nothing to flush: this machine keeps no DNS cache");
 }
 
 TEST_F(HostMaintenanceTest, StepThatFailsEndsTheTask)

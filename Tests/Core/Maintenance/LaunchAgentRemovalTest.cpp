@@ -9,6 +9,7 @@
 #include "Tests/Support/Sentinel.h"
 #include "Tests/Support/TestTrash.h"
 
+#include <chrono>
 #include <unistd.h>
 
 namespace Korvane {
@@ -77,6 +78,28 @@ TEST_F(LaunchAgentRemovalTest, AgentGoesToTheTrashWithoutAServiceManagerToo)
 {
     const auto url = makeAgent();
     EXPECT_EQ(removeLaunchAgent(agentAt(url), host()), std::nullopt);
+    EXPECT_TRUE(isInTrash("com.example.plist"));
+}
+
+TEST_F(LaunchAgentRemovalTest, ServiceManagerThatHangsIsEndedByACancelAndTheFileGoesAllTheSame)
+{
+    const auto agent = agentAt(makeAgent());
+    writeProgram(program("launchctl"), ": > '" + (folder() / "begun").native() + "'; exec sleep 600");
+    EXPECT_EQ(removalThatIsCancelled(agent),
+        "moved to the Trash, but it may still run until the next login: stopping it was cancelled");
+    EXPECT_TRUE(isInTrash("com.example.plist"));
+}
+
+TEST_F(LaunchAgentRemovalTest, ServiceManagerIsNotWaitedForForEver)
+{
+    const auto url = makeAgent();
+    auto& runner = recordRuns();
+    runner.answer = [](const ChildProcess& manager, const Cancellation&) -> ChildResult {
+        EXPECT_EQ(manager.timeLimit, std::chrono::minutes(3));
+        throw FileError(manager.program, std::make_error_code(std::errc::timed_out));
+    };
+    EXPECT_EQ(removeLaunchAgent(agentAt(url), host()),
+        "moved to the Trash, but it may still run until the next login: launchctl took too long");
     EXPECT_TRUE(isInTrash("com.example.plist"));
 }
 

@@ -3,13 +3,17 @@
 
 #pragma once
 
+#include "Core/Maintenance/LaunchAgentRemoval.h"
 #include "Core/Maintenance/LaunchAgentsScanner.h"
 #include "Core/Maintenance/MaintenanceRunner.h"
 #include "Tests/Core/ScanFixture.h"
 #include "Tests/Support/StandInProgram.h"
 #include "Tests/Support/TestProcessRunner.h"
 
+#include <chrono>
+#include <future>
 #include <optional>
+#include <thread>
 
 namespace Korvane {
 
@@ -39,6 +43,24 @@ protected:
         } catch (const MaintenanceRunner::RunError& error) {
             return error.what();
         }
+    }
+
+    /// Waits for a file to appear, ten seconds at most.
+    static bool appears(const std::filesystem::path& file)
+    {
+        for (int round = 0; round < 2000 && !std::filesystem::exists(file); ++round)
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        return std::filesystem::exists(file);
+    }
+
+    /// What a removal says that is cancelled once its service manager has made the file "begun".
+    std::optional<std::string> removalThatIsCancelled(const LaunchAgent& agent)
+    {
+        const Cancellation cancellation;
+        auto removal = std::async(std::launch::async, [&] { return removeLaunchAgent(agent, host(), cancellation); });
+        EXPECT_TRUE(appears(folder() / "begun"));
+        cancellation.cancel();
+        return removal.get();
     }
 
     std::vector<LaunchAgent> scanAgents() { return LaunchAgentsScanner().scan(host()); }

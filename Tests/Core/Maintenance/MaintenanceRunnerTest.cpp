@@ -8,7 +8,6 @@
 
 #include <chrono>
 #include <future>
-#include <thread>
 
 namespace Korvane {
 
@@ -20,14 +19,6 @@ using namespace std::chrono_literals;
 class MaintenanceRunnerTest : public MaintenanceFixture {
 protected:
     void writeInterpreter(const std::string& script) const { writeProgram(program("osascript"), script); }
-
-    /// Waits for a file to appear, ten seconds at most.
-    static bool appears(const std::filesystem::path& file)
-    {
-        for (int round = 0; round < 2000 && !std::filesystem::exists(file); ++round)
-            std::this_thread::sleep_for(5ms);
-        return std::filesystem::exists(file);
-    }
 };
 
 } // namespace
@@ -78,6 +69,16 @@ TEST_F(MaintenanceRunnerTest, ErrorOutputThatIsNoTextIsAnUnknownError)
 {
     writeInterpreter("printf 'bad \\377 byte' >&2; exit 1");
     EXPECT_EQ(failure(MaintenanceTask::FreeRAM), "Unknown error");
+}
+
+TEST_F(MaintenanceRunnerTest, MessageIsKeptUpToItsBoundAndCutBetweenCharacters)
+{
+    constexpr auto longest = MaintenanceRunner::longestMessage;
+    writeInterpreter("head -c " + std::to_string(longest) + " /dev/zero | tr '\\0' x >&2; exit 1");
+    EXPECT_EQ(failure(MaintenanceTask::FreeRAM), std::string(longest, 'x'));
+    writeInterpreter("head -c " + std::to_string(longest - 1)
+        + " /dev/zero | tr '\\0' x >&2; printf '\\360\\237\\230\\200' >&2; head -c 5000000 /dev/zero >&2; exit 1");
+    EXPECT_EQ(failure(MaintenanceTask::FreeRAM), std::string(longest - 1, 'x'));
 }
 
 TEST_F(MaintenanceRunnerTest, SuccessIsSuccessWhateverWasSaid)
