@@ -53,7 +53,30 @@ std::string templateOf(const std::string& name)
     return name.substr(0, at + 1) + name.substr(dot);
 }
 
-/// Takes the first word off a command line, in quotes or not.
+/// Takes a line off a unit's text (systemd.syntax(7)): one that ends with a backslash goes on in the next, comments
+/// between them left out.
+std::string takeLine(std::string_view& text)
+{
+    std::string whole;
+    while (!text.empty()) {
+        const auto end = text.find('\n');
+        auto line = text.substr(0, end);
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+        if (line.ends_with('\r'))
+            line.remove_suffix(1);
+        const auto content = trimmedText(line);
+        if (content.starts_with('#') || content.starts_with(';'))
+            continue;
+        whole += line;
+        const auto backslashes = line.size() - (line.find_last_not_of('\\') + 1);
+        if (backslashes % 2 == 0)
+            break;
+        whole.back() = ' ';
+    }
+    return whole;
+}
+
+/// The first word of a command line, in quotes or not.
 std::string firstWord(std::string_view line)
 {
     line = trimmedText(line);
@@ -69,21 +92,24 @@ std::optional<std::string> programOfUnit(std::string_view text)
 {
     constexpr auto key = "ExecStart"sv;
     bool isInGroup = false;
+    std::optional<std::string> program;
     while (!text.empty()) {
-        const auto end = text.find('\n');
-        const auto line = trimmedText(text.substr(0, end));
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+        const auto whole = takeLine(text);
+        const auto line = trimmedText(whole);
         if (line.starts_with('['))
             isInGroup = line == "[Service]";
         const auto equals = line.find('=');
         if (!isInGroup || equals == std::string_view::npos || trimmedText(line.substr(0, equals)) != key)
             continue;
         auto command = trimmedText(line.substr(equals + 1));
+        // Nothing takes back all that was stated before.
+        if (command.empty())
+            program.reset();
         command.remove_prefix(std::min(command.find_first_not_of("@-:+!"), command.size()));
-        if (auto word = firstWord(command); !word.empty())
-            return displayText(std::string_view(word));
+        if (auto word = firstWord(command); !program && !word.empty())
+            program = displayText(std::string_view(word));
     }
-    return std::nullopt;
+    return program;
 }
 
 UserUnits::UserUnits(std::vector<std::filesystem::path> folders, const Cancellation& cancellation)
@@ -102,17 +128,19 @@ void UserUnits::readLinks(const std::filesystem::path& folder)
                 addEnabled(enabled);
             continue;
         }
-        // An alias: a link beside the unit that it names.
+        // An alias: a link of another name than what it leads to, wherever that lies.
         std::error_code error;
         const auto target = std::filesystem::read_symlink(folder / name, error);
-        const bool isBeside = !target.has_parent_path() || target.parent_path() == folder;
-        if (!error && isBeside && target.filename() != name)
+        if (!error && target.filename() != name)
             addEnabled(target.filename().native());
     }
 }
 
 void UserUnits::addEnabled(const std::string& name)
 {
+    // What is masked leads to a device.
+    if (!isUnitName(name))
+        return;
     m_enabledNames.insert(name);
     m_enabledTemplates.insert(templateOf(name));
 }
@@ -125,8 +153,9 @@ std::vector<std::filesystem::path> UserUnits::enabled() const
         for (const auto& name : namesInFolder(folder, m_cancellation)) {
             m_cancellation.throwIfCancelled();
             std::error_code error;
-            // What is masked is a link to a device, what is a folder no unit.
-            const bool isFile = std::filesystem::is_regular_file(folder / name, error);
+            // What is masked is a link to a device or an empty file (systemd.unit(5)), what is a folder no unit.
+            const bool isFile = std::filesystem::is_regular_file(folder / name, error)
+                && std::filesystem::file_size(folder / name, error) != 0;
             const bool isEnabled = m_enabledNames.contains(name) || m_enabledTemplates.contains(name);
             if (isUnitName(name) && seen.insert(name).second && isFile && isEnabled)
                 units.push_back(folder / name);
@@ -140,7 +169,7 @@ std::vector<std::string> UserUnits::runningNames(const std::filesystem::path& un
     const auto name = unit.filename().native();
     std::vector<std::string> names;
     for (const auto& enabled : m_enabledNames) {
-        if (templateOf(enabled) == name && isUnitName(enabled))
+        if (templateOf(enabled) == name)
             names.push_back(enabled);
     }
     return names.empty() ? std::vector<std::string>{ name } : names;

@@ -127,6 +127,7 @@ TEST_F(HostAgentsTest, MaskedUnitsAndFoldersAndOddNamesAreNoUnits)
     makeUnit("masked.service");
     std::filesystem::remove(unitsFolder() / "masked.service");
     std::filesystem::create_symlink("/dev/null", unitsFolder() / "masked.service");
+    makeUnit("empty.service", "");
     makeUnit("-option.service");
     makeUnit("a b.service");
     makeUnit("notes.txt");
@@ -149,6 +150,29 @@ TEST_F(HostAgentsTest, TemplatesAliasesAndLinkedUnitsAreEnabledTheirOwnWay)
         home() / "project/linked.service", unitsFolder() / "default.target.requires/linked.service");
     EXPECT_EQ(labels(), (Labels{ "linked.service", "real.service", "sync@.service" }));
     EXPECT_EQ(agentAt(unitsFolder() / "sync@.service").program, "/bin/sync-it");
+}
+
+TEST_F(HostAgentsTest, AliasEnablesAUnitWhereverThatLies)
+{
+    // As "systemctl --user enable" links an installed unit and one outside the folders, each by its Alias= alone.
+    const auto data = home() / ".local/share/systemd/user";
+    writeFile(data / "real.service", "[Service]\nExecStart=/bin/real\n");
+    writeFile(home() / "proj/lk.service", "[Service]\nExecStart=/bin/lk\n");
+    std::filesystem::create_directories(unitsFolder());
+    std::filesystem::create_symlink(data / "real.service", unitsFolder() / "al.service");
+    std::filesystem::create_symlink(home() / "proj/lk.service", unitsFolder() / "lk.service");
+    std::filesystem::create_symlink(home() / "proj/lk.service", unitsFolder() / "al3.service");
+    std::filesystem::create_symlink("/usr/lib/systemd/user/vendor.service", unitsFolder() / "al4.service");
+    EXPECT_EQ(labels(), (Labels{ "lk.service", "real.service" }));
+    EXPECT_EQ(agentAt(unitsFolder() / "lk.service").program, "/bin/lk");
+    EXPECT_EQ(agentAt(data / "real.service").program, "/bin/real");
+}
+
+TEST_F(HostAgentsTest, LinkToADeviceEnablesNothing)
+{
+    writeFile(unitsFolder() / "null", "[Service]\nExecStart=/bin/x\n");
+    std::filesystem::create_symlink("/dev/null", unitsFolder() / "masked.service");
+    EXPECT_EQ(labels(), Labels());
 }
 
 TEST_F(HostAgentsTest, UnitInTheDataFolderIsTheUsersOwnToo)

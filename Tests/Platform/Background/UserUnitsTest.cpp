@@ -17,6 +17,22 @@ TEST(UserUnits, ProgramIsTheFirstThatAServiceStarts)
     EXPECT_EQ(programOfUnit("[Service]\nExecStart=\"unclosed quote\n"), "unclosed quote");
 }
 
+TEST(UserUnits, LineThatEndsWithABackslashGoesOn)
+{
+    EXPECT_EQ(programOfUnit("[Service]\nExecStart=\\\n  /bin/a \\\n  -x\n"), "/bin/a");
+    EXPECT_EQ(programOfUnit("[Service]\r\nExecStart=\\\r\n/bin/b\r\n"), "/bin/b");
+    EXPECT_EQ(programOfUnit("[Service]\nExecStart=\\\n# between\n ; them\n/bin/c\n"), "/bin/c");
+    EXPECT_EQ(programOfUnit("[Service]\nDescription=a \\\nExecStart=/bin/no\nExecStart=/bin/d\n"), "/bin/d");
+    EXPECT_EQ(programOfUnit("[Service]\nDescription=a\\\\\nExecStart=/bin/e\n"), "/bin/e");
+    EXPECT_EQ(programOfUnit("[Service]\nExecStart=\\"), std::nullopt);
+}
+
+TEST(UserUnits, NothingTakesBackWhatWasStatedBefore)
+{
+    EXPECT_EQ(programOfUnit("[Service]\nExecStart=/bin/old\nExecStart=\nExecStart=/bin/new\n"), "/bin/new");
+    EXPECT_EQ(programOfUnit("[Service]\nExecStart=/bin/old\nExecStart= \n"), std::nullopt);
+}
+
 TEST(UserUnits, WhatStartsNothingHasNoProgram)
 {
     for (const char* text : { "", "[Service]\n", "ExecStart=/bin/a\n", "[Unit]\nExecStart=/bin/a\n",
@@ -29,6 +45,10 @@ TEST(UserUnits, HostileTextEndsAndIsShownAsText)
     EXPECT_EQ(programOfUnit("[Service]\nExecStart=/bin/\xff\033x\n"), "/bin/\uFFFD\u241Bx");
     EXPECT_EQ(programOfUnit(std::string(1'000'000, '=')), std::nullopt);
     EXPECT_EQ(programOfUnit("[Service]\n" + std::string(1'000'000, '\n')), std::nullopt);
+    std::string endless = "[Service]\n";
+    for (int count = 0; count < 500'000; ++count)
+        endless += "\\\n";
+    EXPECT_EQ(programOfUnit(endless), std::nullopt);
 }
 
 } // namespace
