@@ -113,20 +113,23 @@ bool localizedCaseInsensitiveContains(std::string_view text, std::string_view pa
     return U_SUCCESS(error) && found != USEARCH_DONE;
 }
 
-std::vector<std::string> localizedCaseInsensitiveKeys(const std::vector<std::string_view>& texts)
+std::vector<std::string> localizedCaseInsensitiveKeys(
+    const std::vector<std::string_view>& texts, const Cancellation& cancellation)
 {
-    return localizedCaseInsensitiveKeys(texts, userLocaleName());
+    return localizedCaseInsensitiveKeys(texts, userLocaleName(), cancellation);
 }
 
 std::vector<std::string> localizedCaseInsensitiveKeys(
-    const std::vector<std::string_view>& texts, const std::string& locale)
+    const std::vector<std::string_view>& texts, const std::string& locale, const Cancellation& cancellation)
 {
     const auto language = readersLocale(locale);
     const auto collator = searchCollator(language);
     std::vector<std::string> keys;
     keys.reserve(texts.size());
-    for (const auto text : texts)
+    for (const auto text : texts) {
+        cancellation.throwIfCancelled();
         keys.push_back(orderingKey(folded(text, language), collator.get()));
+    }
     return keys;
 }
 

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Platform/Cancellation.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,10 +24,12 @@ bool localizedCaseInsensitiveContains(std::string_view text, std::string_view pa
 
 /// For each text bytes that order as the texts do for a person who reads the user's language: case does not count,
 /// accents do. Texts that differ in nothing else have equal bytes. Linear in the length of all texts. Any thread.
-std::vector<std::string> localizedCaseInsensitiveKeys(const std::vector<std::string_view>& texts);
+/// Throws CancellationError; asked before each text.
+std::vector<std::string> localizedCaseInsensitiveKeys(
+    const std::vector<std::string_view>& texts, const Cancellation& cancellation = {});
 
 /// The same for a reader of another language.
 std::vector<std::string> localizedCaseInsensitiveKeys(
-    const std::vector<std::string_view>& texts, const std::string& locale);
+    const std::vector<std::string_view>& texts, const std::string& locale, const Cancellation& cancellation = {});
 
 } // namespace Korvane

@@ -92,7 +92,7 @@ std::vector<LaunchAgent> sorted(const std::vector<LaunchAgent>& agents, const Ca
     labels.reserve(agents.size());
     for (const auto& agent : agents)
         labels.push_back(agent.label);
-    const auto keys = localizedCaseInsensitiveKeys(labels);
+    const auto keys = localizedCaseInsensitiveKeys(labels, cancellation);
     std::vector<std::size_t> order(agents.size());
     std::iota(order.begin(), order.end(), std::size_t{ 0 });
     cancellableStableSort(

@@ -111,6 +111,14 @@ TEST(TextSearch, KeysOrderAsAReaderDoesWithoutRegardToCase)
     EXPECT_LT(german[1], german[0]);
 }
 
+TEST(TextSearch, KeysAreGivenUpWhenCancelled)
+{
+    const Cancellation cancellation;
+    cancellation.cancel();
+    EXPECT_THROW(localizedCaseInsensitiveKeys({ "text" }, cancellation), CancellationError);
+    EXPECT_THROW(localizedCaseInsensitiveKeys({ "text" }, "en_US", cancellation), CancellationError);
+}
+
 TEST(TextSearch, KeysAreMadeOfAnyBytes)
 {
     const std::string large(1'000'000, 'x');
