@@ -34,7 +34,7 @@ std::string removalPlanAsText(const LaunchAgent& agent);
 /// The members of agentsAsJson for the one, and "dryRun".
 std::string removalPlanAsJson(const LaunchAgent& agent);
 
-/// What has become of an item; without a message it is stopped and in the Trash.
+/// What has become of an item; without a message it is in the Trash, and stopped when it is of a kind that can be.
 std::string removalResultAsText(const LaunchAgent& agent, const std::optional<std::string>& message);
 /// `{"path", "label", "message"}`; "message" is null for what is done.
 std::string removalResultAsJson(const LaunchAgent& agent, const std::optional<std::string>& message);

@@ -12,14 +12,18 @@ namespace Korvane {
 
 namespace {
 
-/// Anybody may have written a label: a long one is cut, so that it does not push away what stands behind it.
+/// Anybody may have written a label or a program: a long one is cut, so that it does not push away what stands behind
+/// it.
 constexpr std::size_t widestLabel = 48;
+constexpr std::size_t widestProgram = 120;
 /// Wide enough for "System Daemons".
 constexpr std::size_t domainWidth = 14;
 
 std::string shown(std::string_view text) { return displayText(text); }
 
 std::string shownLabel(const LaunchAgent& agent) { return elided(shown(agent.label), widestLabel); }
+
+std::string shownProgram(std::string_view program) { return elided(shown(program), widestProgram); }
 
 } // namespace
 
@@ -60,7 +64,7 @@ std::string agentsAsText(const std::vector<LaunchAgent>& agents)
     for (const auto& agent : agents) {
         const std::string domain(displayText(agent.domain));
         text += padded(shownLabel(agent), width) + "  "
-            + (agent.program ? padded(domain, domainWidth) + "  " + shown(*agent.program) : domain) + "\n  "
+            + (agent.program ? padded(domain, domainWidth) + "  " + shownProgram(*agent.program) : domain) + "\n  "
             + displayText(agent.url) + "\n";
     }
     return text + "\nTotal: " + std::to_string(agents.size()) + (agents.size() == 1 ? " item\n" : " items\n");

@@ -10,6 +10,9 @@
 #include "Tests/Support/TestTrash.h"
 
 #include <algorithm>
+#include <chrono>
+#include <future>
+#include <thread>
 
 namespace Korvane {
 
@@ -18,10 +21,26 @@ namespace {
 /// Maintenance and background items on a machine of the test's own: the real program would touch this one.
 class ProgramMaintenanceTest : public ProgramFixture {
 protected:
-    ExitStatus runHere(const std::vector<std::string>& arguments)
+    ExitStatus runHere(const std::vector<std::string>& arguments, const Cancellation& cancellation = {})
     {
-        Program program(m_test.host, {});
+        Program program(m_test.host, cancellation);
         return ProgramFixture::runHere(program, arguments);
+    }
+
+    /// Runs a command that is cancelled once the script that writeHanging made runs.
+    ExitStatus runCancelled(const std::vector<std::string>& arguments)
+    {
+        const Cancellation cancellation;
+        auto status = std::async(std::launch::async, [&] { return runHere(arguments, cancellation); });
+        for (int round = 0; round < 2000 && !std::filesystem::exists(folder / "begun"); ++round)
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        EXPECT_TRUE(std::filesystem::exists(folder / "begun"));
+        cancellation.cancel();
+        return status.get();
+    }
+    void writeHanging(const std::string& name) const
+    {
+        writeProgram(folder / "bin" / name, ": > '" + (folder / "begun").native() + "'; exec sleep 600");
     }
 
     void writeInterpreter(const std::string& script) const { writeProgram(folder / "bin/osascript", script); }
@@ -91,6 +110,14 @@ TEST_F(ProgramMaintenanceTest, TaskThatFailsSaysWhatTheSystemSaid)
     EXPECT_NE(errors.find((folder / "bin/osascript").string()), std::string::npos) << errors;
 }
 
+TEST_F(ProgramMaintenanceTest, TaskThatIsCancelledIsEnded)
+{
+    writeHanging("osascript");
+    EXPECT_EQ(runCancelled({ "maintenance", "run", "freeRAM" }), ExitStatus::Cancelled);
+    EXPECT_EQ(static_cast<int>(ExitStatus::Cancelled), 130);
+    EXPECT_EQ(output + errors, "");
+}
+
 TEST_F(ProgramMaintenanceTest, AgentsAreListed)
 {
     EXPECT_EQ(runHere({ "agents" }), ExitStatus::Done);
@@ -117,10 +144,10 @@ TEST_F(ProgramMaintenanceTest, AgentsAreListed)
     EXPECT_FALSE(other["removable"].toBool(true));
 }
 
-TEST_F(ProgramMaintenanceTest, LabelsAreShownOnOneLineAndCutWhenLong)
+TEST_F(ProgramMaintenanceTest, LabelsAndProgramsAreShownOnOneLineAndCutWhenLong)
 {
-    const LaunchAgent hostile(
-        "/a.plist", "evil\n\033[2J" + std::string(100'000, 'x'), "two\nlines", LaunchAgent::Domain::User);
+    const LaunchAgent hostile("/a.plist", "evil\n\033[2J" + std::string(100'000, 'x'),
+        "two\nlines" + std::string(1'000'000, 'y'), LaunchAgent::Domain::User);
     const auto report = agentsAsText({ hostile });
     EXPECT_LT(report.size(), 300U);
     EXPECT_EQ(report.find('\033'), std::string::npos);
@@ -155,6 +182,22 @@ TEST_F(ProgramMaintenanceTest, RemoveStopsAndTrashes)
     EXPECT_EQ(runHere({ "agents", "remove", agent("next.plist"), "--yes", "--json" }), ExitStatus::Done);
     EXPECT_TRUE(json()["message"].isNull());
     EXPECT_EQ(text(json()["path"]), agent("next.plist"));
+}
+
+TEST_F(ProgramMaintenanceTest, RemovalThatIsCancelledIsFinishedWithoutItsServiceManager)
+{
+    const std::string unstopped
+        = "moved to the Trash, but it may still run until the next login: stopping it was cancelled";
+    makeList(agent("mine.plist"), "com.example.mine", "/bin/mine");
+    writeHanging("launchctl");
+    EXPECT_EQ(runCancelled({ "agents", "remove", agent("mine.plist"), "--yes" }), ExitStatus::Cancelled);
+    EXPECT_EQ(errors, "korvane-cli: " + agent("mine.plist").string() + ": " + unstopped + "\n");
+    EXPECT_TRUE(isInTrash("mine.plist"));
+    std::filesystem::remove(folder / "begun");
+    makeList(agent("next.plist"), "com.example.next", "/bin/next");
+    EXPECT_EQ(runCancelled({ "agents", "remove", agent("next.plist"), "--yes", "--json" }), ExitStatus::Cancelled);
+    EXPECT_EQ(text(json()["message"]), unstopped);
+    EXPECT_TRUE(isInTrash("next.plist"));
 }
 
 TEST_F(ProgramMaintenanceTest, OnlyTheUsersOwnIsRemoved)
