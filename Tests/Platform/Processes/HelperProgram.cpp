@@ -101,14 +101,14 @@ int sleepForEver(const Arguments& arguments)
     waitForEver();
 }
 
-/// Becomes the administrator's, when its file's mode allows that, and lives until a file is there.
+/// Becomes the administrator's, when its file's mode allows that, and lives until a file is there, for a minute at most.
 int outlive(const Arguments& arguments)
 {
     if (::setuid(0) != 0)
         return 1;
     const int file = ::open(arguments.at(0).c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
     writeAll(file, std::to_string(::getpid()) + "\n");
-    while (::access(arguments.at(1).c_str(), F_OK) != 0)
+    for (int round = 0; round < 12'000 && ::access(arguments.at(1).c_str(), F_OK) != 0; ++round)
         ::usleep(5000);
     return 0;
 }
