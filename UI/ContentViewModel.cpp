@@ -36,7 +36,7 @@ ContentViewModel::ContentViewModel(const Host& host, Navigation& navigation, QOb
     , m_access(host)
     , m_settings(host.defaults, m_access)
     , m_applicationIcons(std::make_shared<ApplicationIcons>())
-    , m_maintenanceThreads(std::make_shared<WaitingThreads>())
+    , m_maintenanceWork(std::make_shared<MaintenanceWork>())
 {
     connect(&navigation, &Navigation::selectedModuleChanged, this, [this] {
         renewScan();
@@ -81,8 +81,8 @@ void ContentViewModel::renewMaintenance()
     const bool isShown = isSelected(CleanerModule::maintenance);
     if (isShown == (m_maintenance != nullptr))
         return;
-    MaintenanceViewModel* gone = std::exchange(
-        m_maintenance, isShown ? new MaintenanceViewModel(m_host, m_maintenanceThreads, this) : nullptr);
+    MaintenanceViewModel* gone
+        = std::exchange(m_maintenance, isShown ? new MaintenanceViewModel(m_host, m_maintenanceWork, this) : nullptr);
     Q_EMIT maintenanceChanged();
     // As above.
     if (gone)

@@ -95,7 +95,7 @@ private:
     ScanViewModel* m_scan = nullptr; ///< A child of this.
     std::shared_ptr<ApplicationIcons> m_applicationIcons;
     UninstallerViewModel* m_uninstaller = nullptr; ///< A child of this.
-    std::shared_ptr<WaitingThreads> m_maintenanceThreads; ///< Of every maintenance screen, past ones too.
+    std::shared_ptr<MaintenanceWork> m_maintenanceWork; ///< Of every maintenance screen, past ones too.
     MaintenanceViewModel* m_maintenance = nullptr; ///< A child of this.
 };
 

@@ -12,9 +12,15 @@ FocusScope {
 
     required property MaintenanceViewModel viewModel
 
+    /// Also false while the window is closed and the application goes on without it.
+    readonly property bool onScreen: screen.Window.visibility !== Window.Hidden
+
     Accessible.role: Accessible.Pane
     Accessible.name: screen.viewModel.module.title
-    Component.onCompleted: screen.viewModel.appear()
+    onOnScreenChanged: {
+        if (screen.onScreen)
+            screen.viewModel.appear();
+    }
 
     AgentsPage {
         id: page

@@ -3,7 +3,6 @@
 
 #include "UI/MaintenanceViewModel.h"
 
-#include "Core/Maintenance/LaunchAgentRemoval.h"
 #include "Core/Maintenance/LaunchAgentsScanner.h"
 #include "Core/Maintenance/MaintenanceRunner.h"
 #include "UI/Background.h"
@@ -47,12 +46,13 @@ TaskListModel::Missing missingOn(const Host& host)
 
 } // namespace
 
-MaintenanceViewModel::MaintenanceViewModel(Host host, std::shared_ptr<WaitingThreads> waiting, QObject* parent)
+MaintenanceViewModel::MaintenanceViewModel(Host host, std::shared_ptr<MaintenanceWork> work, QObject* parent)
     : QObject(parent)
     , m_module(CleanerModule::maintenance)
     , m_host(std::move(host))
-    , m_waiting(std::move(waiting))
+    , m_work(std::move(work))
 {
+    connect(m_work.get(), &MaintenanceWork::removed, this, &MaintenanceViewModel::loadAgents);
 }
 
 MaintenanceViewModel::~MaintenanceViewModel() { m_search.cancel(); }
@@ -82,8 +82,8 @@ void MaintenanceViewModel::run(MaintenanceTask task)
 {
     m_tasks.setState(task, TaskState::running());
     runInBackground(
-        m_waiting->threads(), this,
-        [task, host = m_host, cancellation = m_waiting->cancellation()] {
+        m_work->threads(), this,
+        [task, host = m_host, cancellation = m_work->cancellation()] {
             return stateAfterRunning(task, host, cancellation);
         },
         [this, task](TaskState state) { m_tasks.setState(task, std::move(state)); });
@@ -106,13 +106,7 @@ void MaintenanceViewModel::remove(const LaunchAgent& agent)
 {
     if (!agent.removable())
         return;
-    // Not bound to this screen: what was begun is finished even when the user has gone elsewhere meanwhile.
-    runInBackground(
-        QCoreApplication::instance(), [agent, host = m_host] { return removeLaunchAgent(agent, host); },
-        [screen = QPointer<MaintenanceViewModel>(this)](const std::optional<std::string>&) {
-            if (screen)
-                screen->loadAgents();
-        });
+    m_work->remove(agent, m_host);
 }
 
 void MaintenanceViewModel::ask(const QString& agentId)

@@ -8,8 +8,8 @@
 #include "Platform/Cancellation.h"
 #include "Platform/Host.h"
 #include "UI/Maintenance/AgentListModel.h"
+#include "UI/Maintenance/MaintenanceWork.h"
 #include "UI/Maintenance/TaskListModel.h"
-#include "UI/Maintenance/WaitingThreads.h"
 #include "UI/ModuleViewModel.h"
 
 #include <QObject>
@@ -42,8 +42,8 @@ class MaintenanceViewModel : public QObject {
 public:
     using TaskState = Korvane::TaskState;
 
-    /// The tasks run on `waiting`, and are ended with it.
-    MaintenanceViewModel(Host host, std::shared_ptr<WaitingThreads> waiting, QObject* parent = nullptr);
+    /// The tasks run on `work`, and are ended with it.
+    MaintenanceViewModel(Host host, std::shared_ptr<MaintenanceWork> work, QObject* parent = nullptr);
     ~MaintenanceViewModel() override;
 
     ModuleViewModel* module() { return &m_module; }
@@ -88,7 +88,7 @@ private:
 
     ModuleViewModel m_module;
     const Host m_host;
-    std::shared_ptr<WaitingThreads> m_waiting;
+    std::shared_ptr<MaintenanceWork> m_work;
     TaskListModel m_tasks;
     AgentListModel m_agents;
     std::optional<LaunchAgent> m_agentToRemove;

@@ -15,7 +15,8 @@ Item {
     property bool shadow: true
 
     SoftShadow {
-        anchors.fill: surface
+        // Even one that is not shown would be painted at its full size.
+        anchors.fill: card.shadow ? surface : undefined
         anchors.margins: -12
         anchors.topMargin: -9
         anchors.bottomMargin: -15

@@ -22,6 +22,8 @@ ListView {
     property int row: 0
     /// Whether the keyboard was used last.
     property bool byKeyboard: false
+    /// Whether the keyboard is here, but on none of the rows: the one that had it has gone.
+    readonly property bool astray: list.Window.activeFocusItem === list
     /// Whether the top of the page is to be seen.
     property bool atTop: true
 
@@ -46,7 +48,7 @@ ListView {
     }
     /// Gives the keyboard to a row in place of one that had it and has gone.
     function keepKeyboard(): void {
-        if (list.Window.activeFocusItem === list)
+        if (list.astray)
             list.moveTo(list.row);
     }
     /// Does what a key is for; whether it is for anything.
@@ -108,7 +110,7 @@ ListView {
         list.row = Math.max(0, Math.min(list.count - 1, list.row));
         settling.restart();
     }
-    onActiveFocusChanged: settling.restart()
+    onAstrayChanged: settling.restart()
     Keys.onPressed: event => {
         if (header.activeFocus)
             return;

@@ -3,7 +3,7 @@
 
 #include "UI/Maintenance/MaintenanceTexts.h"
 
-#include "Platform/DisplayText.h"
+#include "UI/ShortenedText.h"
 
 #include <QCoreApplication>
 
@@ -12,6 +12,11 @@
 namespace Korvane::MaintenanceTexts {
 
 namespace {
+
+// More than a line holds, and in a question little enough that its buttons stay in the window.
+constexpr qsizetype longestLabel = 160;
+constexpr qsizetype longestDetail = 512;
+constexpr qsizetype longestMessage = 1024;
 
 // The rules hold these texts without Qt, where its tools would not find them.
 [[maybe_unused]] const char* const translatable[] = {
@@ -47,9 +52,12 @@ QString domain(LaunchAgent::Domain domain) { return translated(displayText(domai
 
 QString detail(const LaunchAgent& agent)
 {
-    return text(agent.program ? displayText(std::string_view(*agent.program)) : displayText(agent.url));
+    return shortened(agent.program ? std::string_view(*agent.program) : std::string_view(agent.url.native()),
+        longestDetail, Cut::Middle);
 }
 
-QString label(const LaunchAgent& agent) { return text(displayText(std::string_view(agent.label))); }
+QString label(const LaunchAgent& agent) { return shortened(std::string_view(agent.label), longestLabel, Cut::End); }
+
+QString message(const QString& text) { return shortened(text, longestMessage, Cut::End); }
 
 } // namespace Korvane::MaintenanceTexts

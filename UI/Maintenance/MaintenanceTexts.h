@@ -24,5 +24,7 @@ QString domain(LaunchAgent::Domain domain);
 QString detail(const LaunchAgent& agent);
 /// The agent's label, to be shown.
 QString label(const LaunchAgent& agent);
+/// What a task's failure has to say, to be shown. Like those above cut where it is longer than anybody reads.
+QString message(const QString& text);
 
 } // namespace Korvane::MaintenanceTexts

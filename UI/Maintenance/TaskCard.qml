@@ -20,6 +20,8 @@ Card {
     required property string message
     required property bool runnable
 
+    readonly property Item runButton: run
+
     signal runRequested
 
     implicitHeight: column.implicitHeight + 2 * Theme.spacingLarge
@@ -70,6 +72,8 @@ Card {
                 message: card.message
             }
             Button {
+                id: run
+
                 // Where the keyboard begins.
                 focus: card.index === 0
                 kind: Button.Prominent

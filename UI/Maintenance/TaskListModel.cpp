@@ -84,7 +84,7 @@ QVariant TaskListModel::data(const QModelIndex& index, int role) const
     case StatusRole:
         return QVariant::fromValue(static_cast<int>(status(task)));
     case MessageRole:
-        return message(task);
+        return MaintenanceTexts::message(message(task));
     case RunnableRole:
         return status(task) != Status::Running && m_missing.count(task) == 0;
     default:

@@ -6,7 +6,7 @@
 #include "Tests/Support/Sentinel.h"
 #include "Tests/Support/TestHost.h"
 #include "Tests/UI/Maintenance/HeldProcesses.h"
-#include "UI/Maintenance/WaitingThreads.h"
+#include "UI/Maintenance/MaintenanceWork.h"
 
 #include <memory>
 
@@ -21,7 +21,7 @@ struct MaintenanceHome {
     Sentinel sentinel{ test.host.environment.home / "Library/Preferences/org.example.sync.plist" };
     std::shared_ptr<HeldProcesses> processes = std::make_shared<HeldProcesses>();
     /// Where tasks run.
-    std::shared_ptr<WaitingThreads> waiting = std::make_shared<WaitingThreads>();
+    std::shared_ptr<MaintenanceWork> work = std::make_shared<MaintenanceWork>();
 };
 
 } // namespace Korvane

@@ -15,6 +15,9 @@ class MaintenanceKeyboardTest : public MaintenanceScreenFixture {
 
 private Q_SLOTS:
     void runsTasksFromTheKeyboard();
+    void goesOnFromATaskThatRuns();
+    void goesOnWhereNoTaskCanBeRun();
+    void findsARowAgainAfterScrolling();
     void removesAnAgentFromTheKeyboard();
     void leadsToTheTasksOnceNothingIsLeft();
     void showsTheLastOfManyAgents();
@@ -31,12 +34,64 @@ void MaintenanceKeyboardTest::runsTasksFromTheKeyboard()
     key(Qt::Key_Return);
     QTRY_VERIFY(shows("Done"));
     interpreter.tell("mdutil", "echo no index >&2; exit 3");
-    runButton(1)->forceActiveFocus(Qt::TabFocusReason);
+    key(Qt::Key_Tab);
     key(Qt::Key_Tab);
     QCOMPARE(window()->activeFocusItem(), runButton(2));
     key(Qt::Key_Space);
     QTRY_VERIFY(shows("no index"));
     QVERIFY(interpreter.process("dscacheutil").empty());
+}
+
+void MaintenanceKeyboardTest::goesOnFromATaskThatRuns()
+{
+    const StandInInterpreter interpreter = this->interpreter();
+    tabTo("Maintenance");
+    key(Qt::Key_Return);
+    tabTo("Run");
+    key(Qt::Key_Return);
+    QTRY_VERIFY(!runButton(0)->isEnabled());
+    key(Qt::Key_Tab);
+    QCOMPARE(window()->activeFocusItem(), runButton(1));
+    key(Qt::Key_Return);
+    QTRY_VERIFY(!runButton(1)->isEnabled());
+    key(Qt::Key_Backtab);
+    QCOMPARE(accessibleName(window()->activeFocusItem()), utf8("iPhone & iPad"));
+    QTRY_VERIFY(!interpreter.process("purge").empty() && !interpreter.process("dscacheutil").empty());
+    for (const char* task : { "purge", "dscacheutil" })
+        interpreter.tell(task, "exit 0");
+    QTRY_VERIFY(runButton(0)->isEnabled() && runButton(1)->isEnabled());
+}
+
+void MaintenanceKeyboardTest::goesOnWhereNoTaskCanBeRun()
+{
+    interpreter();
+    install(userAgents(), "org.example.sync");
+    tabTo("Maintenance");
+    key(Qt::Key_Return);
+    QTRY_VERIFY(agentRow("org.example.sync"));
+    tabTo("Run");
+    for (int card = 0; card < 3; ++card) {
+        key(Qt::Key_Return);
+        QTRY_VERIFY(!runButton(card)->isEnabled());
+        key(Qt::Key_Tab);
+    }
+    QCOMPARE(accessibleName(window()->activeFocusItem()), utf8("org.example.sync"));
+}
+
+void MaintenanceKeyboardTest::findsARowAgainAfterScrolling()
+{
+    for (int i = 1000; i < 1300; ++i)
+        install(userAgents(), "org.example.agent" + std::to_string(i));
+    tabTo("Maintenance");
+    key(Qt::Key_Return);
+    QTRY_VERIFY(agentRow("org.example.agent1000"));
+    tabTo("org.example.agent1000");
+    QQuickItem* page = window()->activeFocusItem()->parentItem()->parentItem();
+    QVERIFY(page->setProperty("contentY", 9000));
+    QTRY_VERIFY(accessibleName(window()->activeFocusItem()).startsWith(utf8("org.example.agent")));
+    const QRectF row = window()->activeFocusItem()->mapRectToScene(window()->activeFocusItem()->boundingRect());
+    QVERIFY(row.top() >= 0 && row.bottom() <= window()->height());
+    QCOMPARE(page->property("contentY").toReal(), 9000.0);
 }
 
 void MaintenanceKeyboardTest::removesAnAgentFromTheKeyboard()

@@ -51,13 +51,13 @@ void MaintenanceViewModelTest::init()
 {
     m_home = std::make_unique<MaintenanceHome>();
     writeFile(host().environment.scriptInterpreter, "");
-    m_model = std::make_unique<MaintenanceViewModel>(host(), m_home->waiting);
+    m_model = std::make_unique<MaintenanceViewModel>(host(), m_home->work);
 }
 
 void MaintenanceViewModelTest::cleanup()
 {
     m_model.reset();
-    m_home->waiting.reset();
+    m_home->work.reset();
     drain();
     QVERIFY2(m_home->sentinel.isUnchanged(), m_home->sentinel.difference().c_str());
     m_home.reset();
@@ -174,7 +174,7 @@ void MaintenanceViewModelTest::tellsWhyATaskCannotBeStarted()
 {
     // An interpreter that is there, and not to be executed.
     host().processes = makeProcessRunner();
-    m_model = std::make_unique<MaintenanceViewModel>(host(), m_home->waiting);
+    m_model = std::make_unique<MaintenanceViewModel>(host(), m_home->work);
     m_model->run(MaintenanceTask::FreeRAM);
     QTRY_VERIFY(state(MaintenanceTask::FreeRAM) != TaskState::running());
     QVERIFY(state(MaintenanceTask::FreeRAM)->kind == TaskState::Kind::Failed);
@@ -196,13 +196,17 @@ void MaintenanceViewModelTest::runsWhatTheScreenNamesAndNothingElse()
 void MaintenanceViewModelTest::manyTasksHoldUpNothingElse()
 {
     writeFile(host().environment.home / "Library/LaunchAgents/org.example.sync.plist", "");
-    const int tasks = 2 * QThreadPool::globalInstance()->maxThreadCount() + 3;
+    QThreadPool& shared = *QThreadPool::globalInstance();
+    const int threads = shared.maxThreadCount();
+    shared.setMaxThreadCount(2);
+    const int tasks = 7;
     for (int task = 0; task < tasks; ++task)
         m_model->run(MaintenanceTask::FreeRAM);
     waitForStarts(static_cast<std::size_t>(tasks));
     m_model->loadAgents();
     QTRY_COMPARE(m_model->agents().size(), std::size_t{ 1 });
     QVERIFY(state(MaintenanceTask::FreeRAM) == TaskState::running());
+    shared.setMaxThreadCount(threads);
 }
 
 void MaintenanceViewModelTest::aTaskOutlivesItsScreen()
@@ -211,7 +215,7 @@ void MaintenanceViewModelTest::aTaskOutlivesItsScreen()
     waitForStarts(1);
     m_model.reset();
     m_home->processes->end("purge", TestProcessRunner::exited(0));
-    m_home->waiting->threads().waitForDone();
+    m_home->work->threads().waitForDone();
     QCoreApplication::processEvents();
     QCOMPARE(m_home->processes->cancelled(), 0);
 }
@@ -222,7 +226,7 @@ void MaintenanceViewModelTest::theEndOfTheThreadsEndsWhatRuns()
     m_model->run(MaintenanceTask::FlushDNS);
     waitForStarts(2);
     m_model.reset();
-    m_home->waiting.reset();
+    m_home->work.reset();
     QCOMPARE(m_home->processes->cancelled(), 2);
 }
 
