@@ -26,7 +26,8 @@ MaintenanceWork::~MaintenanceWork()
 void MaintenanceWork::remove(const LaunchAgent& agent, const Host& host)
 {
     runInBackground(
-        m_threads, this, [agent, host] { return removeLaunchAgent(agent, host); },
+        m_threads, this,
+        [agent, host, cancellation = m_cancellation] { return removeLaunchAgent(agent, host, cancellation); },
         [this](const std::optional<std::string>&) { Q_EMIT removed(); });
 }
 
