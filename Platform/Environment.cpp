@@ -91,6 +91,8 @@ Environment Environment::current()
         environment.xdgConfigDirs = std::move(folders);
     environment.currentDesktops = namesIn("XDG_CURRENT_DESKTOP");
     environment.userId = ::getuid();
+    for (auto& folder : systemDeviceToolFolders("/usr"))
+        environment.deviceToolFolders.push_back(std::move(folder));
     return environment;
 }
 
@@ -105,6 +107,10 @@ Environment Environment::inFolder(const std::filesystem::path& folder)
     environment.machineLibrary = folder / "Library";
     environment.programFolders = { folder / "bin" };
     environment.xdgConfigDirs = { folder / "xdg" };
+    environment.deviceToolFolders = { folder / "homebrew/bin", folder / "local/bin" };
+    for (auto& own : systemDeviceToolFolders(folder))
+        environment.deviceToolFolders.push_back(std::move(own));
+    environment.systemReleaseFiles = { folder / "os-release" };
     environment.userId = ::getuid();
     std::filesystem::create_directories(environment.home);
     std::filesystem::create_directories(environment.temporaryDirectory);

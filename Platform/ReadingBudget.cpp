@@ -10,9 +10,15 @@
 
 namespace Korvane {
 
+ReadingBudget::ReadingBudget(std::size_t largest, std::size_t large) noexcept
+    : m_largest(largest)
+    , m_left(large)
+{
+}
+
 std::optional<std::string> ReadingBudget::contents(const std::filesystem::path& path)
 {
-    const auto limit = m_left >= largestFile ? largestFile : smallFile;
+    const auto limit = m_left >= m_largest ? m_largest : smallFile;
     auto text = contentsOfSmallFile(path, limit);
     // A file that turns out to be too large has been read as far as the limit.
     const auto cost = text ? text->size() : errno == EFBIG ? limit : 0;

@@ -21,11 +21,16 @@ public:
     /// How many bytes of larger ones are read.
     static constexpr std::size_t largeFiles = std::size_t{ 32 } * 1024 * 1024;
 
+    ReadingBudget() = default;
+    /// One with other bounds than these two: the largest file that is read, and how many bytes of large ones.
+    ReadingBudget(std::size_t largest, std::size_t large) noexcept;
+
     /// The contents of a regular file; nothing of any other, of one that cannot be read, and of one that is too large.
     /// Never waits for a pipe or a device.
     std::optional<std::string> contents(const std::filesystem::path& path);
 
 private:
+    std::size_t m_largest = largestFile;
     std::size_t m_left = largeFiles;
 };
 

@@ -24,7 +24,7 @@ debian_packages=(
 debian_test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev qml6-module-qttest
     xvfb xauth openbox xdotool imagemagick procps
-    libglib2.0-bin gvfs trash-cli erofs-utils
+    libglib2.0-bin gvfs trash-cli erofs-utils libimobiledevice-utils
     desktop-file-utils appstream dpkg-dev
     clang libclang-rt-dev
 )
@@ -39,7 +39,7 @@ fedora_packages=(
 fedora_test_packages=(
     gtest-devel gmock-devel google-benchmark-devel
     xorg-x11-server-Xvfb xorg-x11-xauth openbox xdotool ImageMagick procps-ng
-    glib2 gvfs trash-cli erofs-utils
+    glib2 gvfs trash-cli erofs-utils libimobiledevice-utils
     desktop-file-utils appstream
     clang compiler-rt
 )
@@ -53,7 +53,7 @@ arch_packages=(
 arch_test_packages=(
     gtest benchmark
     xorg-server-xvfb xorg-xauth openbox xdotool imagemagick procps-ng
-    glib2 gvfs trash-cli erofs-utils
+    glib2 gvfs trash-cli erofs-utils libimobiledevice
     desktop-file-utils appstream
     clang compiler-rt
 )

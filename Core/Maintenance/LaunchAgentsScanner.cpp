@@ -4,10 +4,11 @@
 #include "Core/Maintenance/LaunchAgentsScanner.h"
 
 #include "Core/Scanning/CancellableSort.h"
+#include "Core/TextKeyedDictionary.h"
+#include "Core/VisibleChildren.h"
 #include "Platform/BackgroundItems.h"
 #include "Platform/DisplayText.h"
-#include "Platform/FileError.h"
-#include "Platform/PropertyList.h"
+#include "Platform/PropertyListValue.h"
 #include "Platform/ReadingBudget.h"
 #include "Platform/TextSearch.h"
 
@@ -20,33 +21,7 @@ namespace {
 
 using Domain = LaunchAgent::Domain;
 using Kind = LaunchAgent::Kind;
-using Value = PropertyList::Value;
-
-std::vector<std::filesystem::path> visibleChildren(
-    const std::filesystem::path& folder, const FileManager& files, const Cancellation& cancellation)
-{
-    try {
-        return files.contentsOfDirectory(folder, HiddenFiles::Skipped, cancellation);
-    } catch (const FileError&) {
-        // Most machines lack one of the folders.
-        return {};
-    }
-}
-
-bool hasOnlyStringKeys(const Value& dictionary)
-{
-    for (std::size_t position = 0; position < dictionary.size(); ++position) {
-        if (dictionary.key(position).kind() != Value::Kind::String)
-            return false;
-    }
-    return true;
-}
-
-std::optional<std::string> stringOf(const Value& dictionary, std::string_view key)
-{
-    const auto value = dictionary.value(key);
-    return value ? value->string() : std::nullopt;
-}
+using Value = PropertyListValue;
 
 /// The first of the arguments, when they are nothing but strings.
 std::optional<std::string> firstArgument(const Value& dictionary)
@@ -65,14 +40,12 @@ std::optional<std::string> firstArgument(const Value& dictionary)
 LaunchAgent parse(const std::filesystem::path& url, Domain domain, ReadingBudget& budget)
 {
     auto fallback = displayText(url.stem());
-    const auto bytes = budget.contents(url);
-    const auto list = bytes ? PropertyList::parse(*bytes) : std::nullopt;
-    if (!list || list->root().kind() != Value::Kind::Dictionary || !hasOnlyStringKeys(list->root()))
+    const auto dictionary = textKeyedDictionary(budget.contents(url));
+    if (!dictionary)
         return { url, std::move(fallback), std::nullopt, domain };
-    const auto root = list->root();
-    auto program = stringOf(root, "Program");
-    return { url, stringOf(root, "Label").value_or(std::move(fallback)), program ? program : firstArgument(root),
-        domain };
+    auto program = textIn(*dictionary, "Program");
+    return { url, textIn(*dictionary, "Label").value_or(std::move(fallback)),
+        program ? program : firstArgument(*dictionary), domain };
 }
 
 Domain domainOf(BackgroundItem::Owner owner)

@@ -4,13 +4,12 @@
 #include "Core/Uninstalling/AppInventoryScanner.h"
 
 #include "Core/Scanning/FileSizeCalculator.h"
+#include "Core/Scanning/FindingsReport.h"
 #include "Core/Scanning/LastPathComponent.h"
-#include "Core/Scanning/ProgressThrottle.h"
 #include "Core/Uninstalling/LeftoverPlaces.h"
+#include "Core/VisibleChildren.h"
 #include "Platform/Bundle.h"
-#include "Platform/Checked.h"
 #include "Platform/DisplayText.h"
-#include "Platform/FileError.h"
 #include "Platform/MeasureAhead.h"
 
 #include <algorithm>
@@ -32,16 +31,6 @@ std::optional<std::string> stemOfApplication(const std::filesystem::path& url)
         return std::nullopt;
     name.resize(name.size() - extension.size());
     return name;
-}
-
-std::vector<std::filesystem::path> visibleChildren(const std::filesystem::path& folder, const FileManager& files)
-{
-    try {
-        return files.contentsOfDirectory(folder, HiddenFiles::Skipped);
-    } catch (const FileError&) {
-        // Most users have no folder of applications of their own.
-        return {};
-    }
 }
 
 std::optional<std::string> bundleIdentifier(const std::filesystem::path& url)
@@ -75,8 +64,8 @@ class AppInventoryScanner::Scan {
 public:
     Scan(const Host& host, const ProgressHandler& progress, const Cancellation& cancellation)
         : m_host(host)
-        , m_progress(progress)
         , m_cancellation(cancellation)
+        , m_report(progress)
     {
     }
 
@@ -112,7 +101,7 @@ private:
 
     void addBundle(const std::filesystem::path& url, MeasureAhead& sizes)
     {
-        report(url);
+        m_report.tell(url);
         const auto size = sizes.next();
         auto identifier = bundleIdentifier(url);
         std::vector<ScanItem> leftovers;
@@ -125,7 +114,7 @@ private:
 
     void addHostApplication(const HostApplication& application)
     {
-        report(application.path);
+        m_report.tell(application.path);
         const auto size = FileSizeCalculator::totalSize(application.path, m_cancellation);
         std::vector<ScanItem> leftovers;
         for (const auto& entry : application.desktopEntries)
@@ -158,25 +147,14 @@ private:
 
     void add(InstalledApp app)
     {
-        m_found.itemsFound = checkedAdd(m_found.itemsFound, 1);
-        m_found.bytesFound = checkedAdd(m_found.bytesFound, app.totalSize());
-        report(app.url);
+        m_report.count(app.totalSize());
+        m_report.tell(app.url);
         m_apps.push_back(std::move(app));
     }
 
-    void report(const std::filesystem::path& url)
-    {
-        if (!m_throttle.shouldEmit())
-            return;
-        m_found.currentPath = displayText(url);
-        m_progress(m_found);
-    }
-
     const Host& m_host;
-    const ProgressHandler& m_progress;
     const Cancellation& m_cancellation;
-    ProgressThrottle m_throttle;
-    ScanProgress m_found;
+    FindingsReport m_report;
     std::vector<InstalledApp> m_apps;
 };
 

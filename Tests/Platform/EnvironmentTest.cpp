@@ -124,6 +124,16 @@ TEST(Environment, TakesTheAbsoluteOnesOfTheSharedSettingsFolders)
     }
 }
 
+TEST(Environment, LooksForTheToolsOfDevicesInTheseFoldersAndNoOthers)
+{
+    const EnvironmentVariable path("PATH", "/elsewhere:/usr/local/sbin");
+    std::vector<std::filesystem::path> expected{ "/opt/homebrew/bin", "/usr/local/bin" };
+#ifndef __APPLE__
+    expected.push_back("/usr/bin");
+#endif
+    EXPECT_EQ(Environment::current().deviceToolFolders, expected);
+}
+
 #ifndef __APPLE__
 TEST(Environment, TakesTheTemporaryDirectoryFromItsVariableOnlyWhenAbsolute)
 {
@@ -156,6 +166,12 @@ TEST(Environment, InAFolderKeepsEverythingInsideIt)
     EXPECT_EQ(environment.machineLibrary, folder / "Library");
     EXPECT_EQ(environment.programFolders, (std::vector<std::filesystem::path>{ folder / "bin" }));
     EXPECT_EQ(environment.xdgConfigDirs, (std::vector<std::filesystem::path>{ folder / "xdg" }));
+    for (const auto& tools : environment.deviceToolFolders)
+        EXPECT_TRUE(tools.native().starts_with(folder.path().native() + "/")) << tools;
+    EXPECT_EQ(environment.deviceToolFolders[0], folder / "homebrew/bin");
+    EXPECT_EQ(environment.deviceToolFolders[1], folder / "local/bin");
+    EXPECT_EQ(environment.systemReleaseFiles, (std::vector<std::filesystem::path>{ folder / "os-release" }));
+    EXPECT_EQ(environment.downloads(), folder / "home/Downloads");
     EXPECT_TRUE(environment.currentDesktops.empty());
     EXPECT_EQ(environment.userId, ::getuid());
     EXPECT_TRUE(std::filesystem::is_directory(environment.home));

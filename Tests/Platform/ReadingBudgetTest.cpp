@@ -44,6 +44,18 @@ TEST(ReadingBudget, IsSpentByLargeFilesAlsoByThoseTooLarge)
     }
 }
 
+TEST(ReadingBudget, MayHaveBoundsOfItsOwn)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "largest", 3 * ReadingBudget::largestFile);
+    writeFile(folder / "larger", 3 * ReadingBudget::largestFile + 1);
+    ReadingBudget budget(3 * ReadingBudget::largestFile, 6 * ReadingBudget::largestFile);
+    EXPECT_TRUE(budget.contents(folder / "largest"));
+    EXPECT_FALSE(budget.contents(folder / "larger"));
+    // Half of it is spent on each.
+    EXPECT_FALSE(budget.contents(folder / "largest"));
+}
+
 TEST(ReadingBudget, WaitsForNoPipe)
 {
     const TemporaryFolder folder;

@@ -7,13 +7,12 @@
 #include "Core/Maintenance/LaunchAgentsScanner.h"
 #include "Core/Maintenance/MaintenanceRunner.h"
 #include "Tests/Core/ScanFixture.h"
+#include "Tests/Support/FileAppears.h"
 #include "Tests/Support/StandInProgram.h"
 #include "Tests/Support/TestProcessRunner.h"
 
-#include <chrono>
 #include <future>
 #include <optional>
-#include <thread>
 
 namespace Korvane {
 
@@ -43,14 +42,6 @@ protected:
         } catch (const MaintenanceRunner::RunError& error) {
             return error.what();
         }
-    }
-
-    /// Waits for a file to appear, ten seconds at most.
-    static bool appears(const std::filesystem::path& file)
-    {
-        for (int round = 0; round < 2000 && !std::filesystem::exists(file); ++round)
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        return std::filesystem::exists(file);
     }
 
     /// What a removal says that is cancelled once its service manager has made the file "begun".
