@@ -9,6 +9,9 @@
 
 namespace Korvane {
 
+/// The width of a column of sizes, wide enough for "1,023.99 GB", so that lines of most reports stand in line.
+constexpr std::size_t sizeWidth = 11;
+
 /// How many characters a UTF-8 text has, each taken to fill one column.
 std::size_t columns(std::string_view text);
 

@@ -3,6 +3,7 @@
 
 #include "CLI/CommandLine.h"
 
+#include "CLI/MediaArguments.h"
 #include "CLI/UsageError.h"
 #include "Platform/DisplayText.h"
 
@@ -18,7 +19,7 @@ using Command = CommandLine::Command;
 using Selection = CommandLine::Selection;
 
 constexpr std::string_view commands = "one of: modules, scan, clean, apps, uninstall, maintenance, agents, "
-                                      "--help, --version";
+                                      "devices, backups, media, --help, --version";
 constexpr std::string_view itemOption = "--item";
 constexpr std::string_view itemAssignment = "--item=";
 
@@ -47,6 +48,10 @@ public:
             return m_result;
         }
         readCommand();
+        if (m_result.command == Command::ListMedia) {
+            readMediaArguments(m_arguments, m_result);
+            return m_result;
+        }
         while (m_next < m_arguments.size())
             readArgument(m_arguments[m_next++]);
         requireSubject();
@@ -74,6 +79,8 @@ private:
             throw UsageError("a task is missing; one of: " + maintenanceTasks());
         if (m_result.command == Command::RemoveAgent && !m_hasSubject)
             throw UsageError("the path of a background item is missing; 'korvane-cli agents' lists them");
+        if (m_result.command == Command::RemoveBackup && !m_hasSubject)
+            throw UsageError("the path of a backup is missing; 'korvane-cli backups' lists them");
         const bool takesModule = m_result.command == Command::Scan || m_result.command == Command::Clean;
         if (takesModule && !m_hasSubject)
             throw UsageError("a module is missing; one of: " + scannableModules());
@@ -90,7 +97,9 @@ private:
         using Named = std::pair<std::string_view, Command>;
         static constexpr std::array names{ Named{ "modules", Command::Modules }, Named{ "scan", Command::Scan },
             Named{ "clean", Command::Clean }, Named{ "apps", Command::Apps }, Named{ "uninstall", Command::Uninstall },
-            Named{ "maintenance", Command::Maintenance }, Named{ "agents", Command::Agents } };
+            Named{ "maintenance", Command::Maintenance }, Named{ "agents", Command::Agents },
+            Named{ "devices", Command::Devices }, Named{ "backups", Command::Backups },
+            Named{ "media", Command::ListMedia } };
         const auto& command = m_arguments[m_next++];
         const auto found
             = std::find_if(names.begin(), names.end(), [&](const Named& named) { return named.first == command; });
@@ -114,7 +123,8 @@ private:
 
     bool takesYesAlone() const
     {
-        return m_result.command == Command::Uninstall || m_result.command == Command::RemoveAgent;
+        return m_result.command == Command::Uninstall || m_result.command == Command::RemoveAgent
+            || m_result.command == Command::RemoveBackup;
     }
 
     void readCleanOption(const std::string& option)
@@ -125,7 +135,7 @@ private:
                 "unknown option '" + displayText(std::string_view(option)) + "'; --help lists the options there are");
         if (m_result.command != Command::Clean)
             throw UsageError("option '" + option.substr(0, option.find('=')) + "' belongs to "
-                + (option == "--yes" ? "the commands 'clean', 'uninstall' and 'agents remove' only"
+                + (option == "--yes" ? "the commands 'clean', 'uninstall', 'agents remove', 'backups remove' and 'media delete' only"
                                      : "the command 'clean' only"));
         if (option == "--delete")
             m_result.removal = CommandLine::Removal::Delete;
@@ -158,7 +168,8 @@ private:
 
     void readSubject(const std::string& argument)
     {
-        const bool takesNone = m_result.command == Command::Modules || m_result.command == Command::Apps;
+        const bool takesNone = m_result.command == Command::Modules || m_result.command == Command::Apps
+            || m_result.command == Command::Devices;
         if (m_hasSubject || takesNone)
             requireNothingBehind(m_next - 1);
         m_hasSubject = true;
@@ -168,6 +179,7 @@ private:
             break;
         case Command::Maintenance:
         case Command::Agents:
+        case Command::Backups:
             readAction(argument);
             break;
         case Command::RunTask:
@@ -176,21 +188,37 @@ private:
         case Command::RemoveAgent:
             m_result.agent = argument;
             break;
+        case Command::RemoveBackup:
+            m_result.backup = argument;
+            break;
         default:
             readModule(argument);
         }
     }
 
-    /// What is to be done with maintenance tasks or background items; all but listing needs a subject of its own.
-    void readAction(const std::string& action)
+    /// What can be done with the things that a command lists, besides listing them.
+    struct Action {
+        std::string_view name;
+        Command command;
+    };
+
+    static Action actionOf(Command command)
     {
-        const bool isMaintenance = m_result.command == Command::Maintenance;
-        if (action == "list")
+        if (command == Command::Maintenance)
+            return { "run", Command::RunTask };
+        return { "remove", command == Command::Agents ? Command::RemoveAgent : Command::RemoveBackup };
+    }
+
+    /// All but listing needs a subject of its own.
+    void readAction(const std::string& name)
+    {
+        const auto action = actionOf(m_result.command);
+        if (name == "list")
             return;
-        if (action != (isMaintenance ? "run" : "remove"))
-            throw UsageError("unknown action '" + displayText(std::string_view(action))
-                + (isMaintenance ? "'; one of: list, run" : "'; one of: list, remove"));
-        m_result.command = isMaintenance ? Command::RunTask : Command::RemoveAgent;
+        if (name != action.name)
+            throw UsageError("unknown action '" + displayText(std::string_view(name)) + "'; one of: list, "
+                + std::string(action.name));
+        m_result.command = action.command;
         m_hasSubject = false;
     }
 
@@ -223,44 +251,6 @@ private:
 } // namespace
 
 CommandLine CommandLine::parse(const std::vector<std::string>& arguments) { return Parser(arguments).parse(); }
-
-std::string_view usageText()
-{
-    return "Usage:\n"
-           "  korvane-cli modules [--json]\n"
-           "  korvane-cli scan MODULE [--json]\n"
-           "  korvane-cli clean MODULE [--all | --item PATH ...] [--delete] [--yes] [--json]\n"
-           "  korvane-cli apps [--json]\n"
-           "  korvane-cli uninstall PATH-OR-ID [--yes] [--json]\n"
-           "  korvane-cli maintenance [list | run TASK] [--json]\n"
-           "  korvane-cli agents [list] [--json]\n"
-           "  korvane-cli agents remove PATH [--yes] [--json]\n"
-           "  korvane-cli --help | --version\n"
-           "\n"
-           "MODULE is systemJunk, largeFiles or duplicates. TASK is freeRAM, flushDNS or\n"
-           "reindexSpotlight.\n"
-           "\n"
-           "scan shows what could be cleaned, and changes nothing. clean scans, then takes the\n"
-           "pre-selected findings, and without --yes only says what it would do.\n"
-           "\n"
-           "apps lists the installed applications with what each has left behind. uninstall moves\n"
-           "one of them, named by its path or its identifier, with all of that to the Trash; it\n"
-           "refuses an application that is running, and without --yes only says what it would do.\n"
-           "\n"
-           "maintenance lists the tasks, and which of them can be run here; run does one, for which\n"
-           "the system may ask for an administrator's password. agents lists what starts by itself.\n"
-           "remove moves the file of one item of the user's own to the Trash, once its service\n"
-           "manager has stopped it; an autostart entry is only moved, and what it has started runs\n"
-           "on. Without --yes remove only says what it would do.\n"
-           "\n"
-           "  --all        take all findings, also those that may be in use or needed\n"
-           "  --item PATH  take this finding; may be given more than once\n"
-           "  --delete     delete for good instead of moving to the Trash\n"
-           "  --yes        do it\n"
-           "  --json       print one line of JSON\n"
-           "\n"
-           "Exit status: 0 done, 1 some items failed, 2 wrong use, 130 cancelled by Ctrl-C.\n";
-}
 
 bool isScannable(CleanerModule module)
 {

@@ -7,6 +7,7 @@
 #include "Core/Modules.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,7 +27,13 @@ struct CommandLine {
         Maintenance,
         RunTask,
         Agents,
-        RemoveAgent
+        RemoveAgent,
+        Devices,
+        Backups,
+        RemoveBackup,
+        ListMedia,
+        ExportMedia,
+        DeleteMedia
     };
     enum class Format { Text, Json };
     /// Which findings are cleaned: those that a scan ticks by itself, all, or those named.
@@ -45,6 +52,10 @@ struct CommandLine {
     std::string application; ///< Of Uninstall: a path or an identifier, any bytes, as given.
     MaintenanceTask task = MaintenanceTask::FreeRAM; ///< Of RunTask.
     std::string agent; ///< Of RemoveAgent: the path of a background item, any bytes, as given.
+    std::string backup; ///< Of RemoveBackup: the path of a backup, any bytes, as given.
+    std::string device; ///< Of ListMedia, ExportMedia and DeleteMedia: the identifier of a device, as given.
+    std::vector<std::string> mediaPaths; ///< Of ExportMedia and DeleteMedia: paths on the device, each once, as given.
+    std::optional<std::filesystem::path> exportFolder; ///< Of ExportMedia, as given; the downloads without one.
 
     /// Reads the arguments behind the program's name. Throws UsageError.
     static CommandLine parse(const std::vector<std::string>& arguments);

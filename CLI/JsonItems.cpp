@@ -37,6 +37,21 @@ void writeText(JsonWriter& json, std::string_view text)
     json.string(isValidUtf8(text) ? std::string(text) : displayText(text));
 }
 
+void writeMember(JsonWriter& json, std::string_view key, std::string_view text)
+{
+    json.key(key);
+    writeText(json, text);
+}
+
+void writeOptional(JsonWriter& json, std::string_view key, const std::optional<std::string>& text)
+{
+    json.key(key);
+    if (text)
+        writeText(json, *text);
+    else
+        json.null();
+}
+
 std::string_view nameOf(Cleaner::Action action)
 {
     switch (action) {

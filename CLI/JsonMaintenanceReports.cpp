@@ -10,21 +10,6 @@ namespace Korvane {
 
 namespace {
 
-void writeMember(JsonWriter& json, std::string_view key, std::string_view text)
-{
-    json.key(key);
-    writeText(json, text);
-}
-
-void writeOptional(JsonWriter& json, std::string_view key, const std::optional<std::string>& text)
-{
-    json.key(key);
-    if (text)
-        writeText(json, *text);
-    else
-        json.null();
-}
-
 std::string_view nameOf(LaunchAgent::Kind kind)
 {
     switch (kind) {

@@ -106,8 +106,30 @@ ExitStatus Program::runCommand(const CommandLine& line)
         return listAgents(line);
     case Command::RemoveAgent:
         return removeAgent(line);
+    default:
+        return runDeviceCommand(line);
     }
-    return ExitStatus::WrongUse;
+}
+
+/// The commands for devices on the cable and their backups.
+ExitStatus Program::runDeviceCommand(const CommandLine& line) const
+{
+    switch (line.command) {
+    case Command::Devices:
+        return listDevices(line);
+    case Command::Backups:
+        return listBackups(line);
+    case Command::RemoveBackup:
+        return removeBackup(line);
+    case Command::ListMedia:
+        return listMedia(line);
+    case Command::ExportMedia:
+        return exportMedia(line);
+    case Command::DeleteMedia:
+        return deleteMedia(line);
+    default:
+        return ExitStatus::WrongUse;
+    }
 }
 
 ExitStatus Program::clean(const CommandLine& line)

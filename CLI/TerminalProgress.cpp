@@ -49,9 +49,14 @@ void TerminalProgress::show(const ScanProgress& progress)
 
 void TerminalProgress::showCleaning(std::size_t number, std::size_t count, const std::string& path)
 {
+    showStep("Cleaning", number, count, path);
+}
+
+void TerminalProgress::showStep(const std::string& work, std::size_t number, std::size_t count, const std::string& name)
+{
     if (!m_isTerminal || !m_throttle.shouldEmit())
         return;
-    rewrite("Cleaning " + std::to_string(number) + " of " + std::to_string(count) + "  " + path);
+    rewrite(work + " " + std::to_string(number) + " of " + std::to_string(count) + "  " + name);
 }
 
 void TerminalProgress::wipe()

@@ -25,6 +25,8 @@ public:
     void show(const ScanProgress& progress);
     /// Shows which item is being cleaned; at most ten times a second.
     void showCleaning(std::size_t number, std::size_t count, const std::string& path);
+    /// Shows at which of so many steps a work is; at most ten times a second.
+    void showStep(const std::string& work, std::size_t number, std::size_t count, const std::string& name);
 
     /// Takes the line away.
     void wipe();

@@ -14,9 +14,6 @@ namespace Korvane {
 
 namespace {
 
-/// Wide enough for "1,023.99 GB".
-constexpr std::size_t sizeWidth = 11;
-
 std::string itemLine(std::int64_t size, std::string_view text)
 {
     return "  " + paddedLeft(formattedBytes(size), sizeWidth) + "  " + std::string(text) + "\n";

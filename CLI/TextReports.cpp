@@ -18,8 +18,6 @@ namespace Korvane {
 
 namespace {
 
-/// Wide enough for "1,023.99 GB", so that lines of most reports stand in line with each other.
-constexpr std::size_t sizeWidth = 11;
 constexpr std::size_t countWidth = 14;
 
 constexpr const char* nothingFound = "Nothing found to clean in this module.\n";

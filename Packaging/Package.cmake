@@ -25,11 +25,13 @@ files and what lies in the Trash, shows what it found with sizes, and moves
 what is chosen to the Trash or deletes it. Includes korvane-cli, the same
 for a terminal and for scripts.")
     set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+    # The tools that talk to iPhones and iPads.
+    set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libimobiledevice-utils")
     if(KORVANE_BUILD_UI)
         # The windows' QML modules are loaded at run time, so that no tool can see that they are needed.
         set(CPACK_DEBIAN_PACKAGE_DEPENDS "qml6-module-qtqml, qml6-module-qtqml-workerscript, qml6-module-qtquick, \
 qml6-module-qtquick-layouts, qml6-module-qtquick-templates, qml6-module-qtquick-window")
-        set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-inter, pkexec | policykit-1, qt6-wayland")
+        string(APPEND CPACK_DEBIAN_PACKAGE_RECOMMENDS ", fonts-inter, pkexec | policykit-1, qt6-wayland")
     endif()
 endif()
 

@@ -80,8 +80,8 @@ TEST(CommandLineTest, ItemsAreTakenAsBytesAsTheyAreGiven)
 
 TEST(CommandLineTest, CommandHasToBeKnown)
 {
-    const std::string commands
-        = "one of: modules, scan, clean, apps, uninstall, maintenance, agents, --help, --version";
+    const std::string commands = "one of: modules, scan, clean, apps, uninstall, maintenance, agents, devices, "
+                                 "backups, media, --help, --version";
     EXPECT_EQ(complaint({}), "a command is missing; " + commands);
     EXPECT_EQ(complaint({ "Scan" }), "unknown command 'Scan'; " + commands);
     EXPECT_EQ(complaint({ "--json" }), "unknown command '--json'; " + commands);
@@ -106,7 +106,7 @@ TEST(CommandLineTest, OptionsHaveToBeKnownAndInTheirPlace)
     EXPECT_EQ(complaint({ "scan", "systemJunk", "--item=/a" }), "option '--item' belongs to the command 'clean' only");
     for (const char* option : { "--all", "--delete", "--yes", "--item" }) {
         const std::string owner = std::string(option) == "--yes"
-            ? "the commands 'clean', 'uninstall' and 'agents remove'"
+            ? "the commands 'clean', 'uninstall', 'agents remove', 'backups remove' and 'media delete'"
             : "the command 'clean'";
         EXPECT_EQ(complaint({ "scan", "systemJunk", option }),
             std::string("option '") + option + "' belongs to " + owner + " only");
@@ -120,7 +120,8 @@ TEST(CommandLineTest, AppsTakesNothingButItsFormat)
     EXPECT_EQ(parse({ "apps", "--json" }).format, Format::Json);
     EXPECT_EQ(complaint({ "apps", "systemJunk" }), "unexpected argument 'systemJunk'");
     EXPECT_EQ(complaint({ "apps", "--yes" }),
-        "option '--yes' belongs to the commands 'clean', 'uninstall' and 'agents remove' only");
+        "option '--yes' belongs to the commands 'clean', 'uninstall', 'agents remove', 'backups remove' and 'media "
+        "delete' only");
 }
 
 TEST(CommandLineTest, UninstallTakesOneApplicationAndOnlySaysSoUnlessTold)
@@ -174,6 +175,31 @@ TEST(CommandLineTest, AgentsListsUnlessItIsToldToRemoveOne)
     EXPECT_EQ(complaint({ "agents", "remove", "/a", "/b" }), "unexpected argument '/b'");
     EXPECT_EQ(complaint({ "agents", "stop" }), "unknown action 'stop'; one of: list, remove");
     EXPECT_NE(complaint({ "agents", "--yes" }).find("belongs to"), std::string::npos);
+}
+
+TEST(CommandLineTest, DevicesTakesNothingButItsFormat)
+{
+    EXPECT_EQ(parse({ "devices" }).command, Command::Devices);
+    EXPECT_EQ(parse({ "devices", "--json" }).format, Format::Json);
+    EXPECT_EQ(complaint({ "devices", "list" }), "unexpected argument 'list'");
+    EXPECT_NE(complaint({ "devices", "--yes" }).find("belongs to"), std::string::npos);
+}
+
+TEST(CommandLineTest, BackupsListsUnlessItIsToldToRemoveOne)
+{
+    EXPECT_EQ(parse({ "backups", "--json" }).command, Command::Backups);
+    EXPECT_EQ(parse({ "backups", "list" }).command, Command::Backups);
+    const auto line = parse({ "backups", "--json", "remove", "/a\xff" });
+    EXPECT_EQ(line.command, Command::RemoveBackup);
+    EXPECT_EQ(line.backup, "/a\xff");
+    EXPECT_EQ(line.format, Format::Json);
+    EXPECT_EQ(line.confirmation, CommandLine::Confirmation::Missing);
+    EXPECT_EQ(parse({ "backups", "remove", "/a", "--yes" }).confirmation, CommandLine::Confirmation::Given);
+    EXPECT_EQ(complaint({ "backups", "remove" }), "the path of a backup is missing; 'korvane-cli backups' lists them");
+    EXPECT_EQ(complaint({ "backups", "remove", "/a", "/b" }), "unexpected argument '/b'");
+    EXPECT_EQ(complaint({ "backups", "delete" }), "unknown action 'delete'; one of: list, remove");
+    EXPECT_NE(complaint({ "backups", "--yes" }).find("belongs to"), std::string::npos);
+    EXPECT_NE(complaint({ "backups", "remove", "/a", "--delete" }).find("belongs to"), std::string::npos);
 }
 
 TEST(CommandLineTest, AllAndItemExcludeEachOther)

@@ -5,6 +5,7 @@
 
 #include "CLI/Program.h"
 #include "Tests/CLI/ProgramRun.h"
+#include "Tests/Support/FileAppears.h"
 #include "Tests/Support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -13,6 +14,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <future>
 
 namespace Korvane {
 
@@ -57,6 +60,18 @@ protected:
         output = testing::internal::GetCapturedStdout();
         errors = testing::internal::GetCapturedStderr();
         return status;
+    }
+
+    /// The same, cancelled once a program that it runs has made this file.
+    ExitStatus runCancelled(
+        const Host& host, const std::vector<std::string>& arguments, const std::filesystem::path& begun)
+    {
+        const Cancellation cancellation;
+        Program program(host, cancellation);
+        auto status = std::async(std::launch::async, [&] { return runHere(program, arguments); });
+        EXPECT_TRUE(appears(begun));
+        cancellation.cancel();
+        return status.get();
     }
 
     /// The one JSON object that was printed.

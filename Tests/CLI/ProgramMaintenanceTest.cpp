@@ -10,9 +10,6 @@
 #include "Tests/Support/TestTrash.h"
 
 #include <algorithm>
-#include <chrono>
-#include <future>
-#include <thread>
 
 namespace Korvane {
 
@@ -30,13 +27,7 @@ protected:
     /// Runs a command that is cancelled once the script that writeHanging made runs.
     ExitStatus runCancelled(const std::vector<std::string>& arguments)
     {
-        const Cancellation cancellation;
-        auto status = std::async(std::launch::async, [&] { return runHere(arguments, cancellation); });
-        for (int round = 0; round < 2000 && !std::filesystem::exists(folder / "begun"); ++round)
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        EXPECT_TRUE(std::filesystem::exists(folder / "begun"));
-        cancellation.cancel();
-        return status.get();
+        return ProgramFixture::runCancelled(m_test.host, arguments, folder / "begun");
     }
     void writeHanging(const std::string& name) const
     {

@@ -39,6 +39,8 @@ depends="$(dpkg-deb --field "$package" Depends)"
 for name in libqt6quick6 libqt6svg6 libicu libssl qml6-module-qtquick-templates qml6-module-qtquick-layouts; do
     [[ $depends == *"$name"* ]] || fail "the package does not depend on $name: $depends"
 done
+recommends="$(dpkg-deb --field "$package" Recommends)"
+[[ $recommends == *libimobiledevice-utils* ]] || fail "the tools for devices are not recommended: $recommends"
 
 dpkg-deb --extract "$package" "$place/root"
 desktop-file-validate "$place/root/usr/share/applications/org.korvane.Korvane.desktop"
