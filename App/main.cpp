@@ -9,11 +9,15 @@
 ///   Core/              the rules, without Qt: Modules, FullDiskAccess
 ///     Scanning/          what is found: the scan model and the scanners
 ///     Cleaning/          how it is removed
+///     Uninstalling/      the applications, what they leave behind, and how both are removed
+///     Devices/           iPhones and iPads by their tools, camera rolls, backups
 ///     Maintenance/       the tasks for the whole machine; what starts by itself, and how it is removed
 ///   UI/                the screens, each a QML file and the view model that bears its name; Theme
 ///     Content/           the parts of the main window
 ///     Controls/          the look of a button, a switch, a card
 ///     Dashboard/         the parts of the home screen
+///     Devices/           the parts of the screen of devices
+///     Maintenance/       the parts of the maintenance screen
 ///     Scan/              the parts of the scan screen
 ///     Settings/          the parts of the settings window
 ///     Symbols/           one family of drawings, and what tints them

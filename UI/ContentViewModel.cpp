@@ -37,16 +37,24 @@ ContentViewModel::ContentViewModel(const Host& host, Navigation& navigation, QOb
     , m_settings(host.defaults, m_access)
     , m_applicationIcons(std::make_shared<ApplicationIcons>())
     , m_maintenanceWork(std::make_shared<MaintenanceWork>())
+    , m_deviceWork(std::make_shared<DeviceWork>())
 {
     connect(&navigation, &Navigation::selectedModuleChanged, this, [this] {
-        renewScan();
-        renewUninstaller();
-        renewMaintenance();
+        renewScreens();
         Q_EMIT selectedModuleChanged();
     });
+    renewScreens();
+}
+
+void ContentViewModel::renewScreens()
+{
     renewScan();
-    renewUninstaller();
-    renewMaintenance();
+    renew(m_uninstaller, CleanerModule::uninstaller, &ContentViewModel::uninstallerChanged,
+        [this] { return new UninstallerViewModel(m_host, m_applicationIcons, {}, this); });
+    renew(m_maintenance, CleanerModule::maintenance, &ContentViewModel::maintenanceChanged,
+        [this] { return new MaintenanceViewModel(m_host, m_maintenanceWork, this); });
+    renew(m_device, CleanerModule::iosDevice, &ContentViewModel::deviceChanged,
+        [this] { return new IOSDeviceViewModel(m_host, m_deviceWork, this); });
 }
 
 void ContentViewModel::renewScan()
@@ -63,33 +71,18 @@ void ContentViewModel::renewScan()
         gone->deleteLater();
 }
 
-void ContentViewModel::renewUninstaller()
+template <typename ScreenModel, typename Make>
+void ContentViewModel::renew(ScreenModel*& screen, CleanerModule module, void (ContentViewModel::*changed)(), Make make)
 {
-    const bool isShown = isSelected(CleanerModule::uninstaller);
-    if (isShown == (m_uninstaller != nullptr))
+    const bool isShown = m_navigation.selectedModule() == module;
+    if (isShown == (screen != nullptr))
         return;
-    UninstallerViewModel* gone = std::exchange(
-        m_uninstaller, isShown ? new UninstallerViewModel(m_host, m_applicationIcons, {}, this) : nullptr);
-    Q_EMIT uninstallerChanged();
+    ScreenModel* gone = std::exchange(screen, isShown ? make() : nullptr);
+    Q_EMIT(this->*changed)();
     // As above.
     if (gone)
         gone->deleteLater();
 }
-
-void ContentViewModel::renewMaintenance()
-{
-    const bool isShown = isSelected(CleanerModule::maintenance);
-    if (isShown == (m_maintenance != nullptr))
-        return;
-    MaintenanceViewModel* gone
-        = std::exchange(m_maintenance, isShown ? new MaintenanceViewModel(m_host, m_maintenanceWork, this) : nullptr);
-    Q_EMIT maintenanceChanged();
-    // As above.
-    if (gone)
-        gone->deleteLater();
-}
-
-bool ContentViewModel::isSelected(CleanerModule module) const { return m_navigation.selectedModule() == module; }
 
 ModuleViewModel* ContentViewModel::moduleViewModel(CleanerModule module) const
 {

@@ -6,6 +6,7 @@
 #include "Platform/Host.h"
 #include "UI/DashboardViewModel.h"
 #include "UI/FullDiskAccessViewModel.h"
+#include "UI/IOSDeviceViewModel.h"
 #include "UI/MaintenanceViewModel.h"
 #include "UI/ModuleViewModel.h"
 #include "UI/Navigation.h"
@@ -24,7 +25,7 @@ namespace Korvane {
 
 /// The main window: the modules in its sidebar, which of them is shown, and the view models of its screens.
 ///
-/// Main thread. Owns the view models that it hands out. Its end ends the maintenance tasks that still run.
+/// Main thread. Owns the view models that it hands out. Its end ends what still waits for another program.
 class ContentViewModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -42,6 +43,8 @@ class ContentViewModel : public QObject {
     Q_PROPERTY(Korvane::UninstallerViewModel* uninstaller READ uninstaller NOTIFY uninstallerChanged FINAL)
     /// The screen of the maintenance while it is selected, else null. A fresh one each time.
     Q_PROPERTY(Korvane::MaintenanceViewModel* maintenance READ maintenance NOTIFY maintenanceChanged FINAL)
+    /// The screen of the devices while it is selected, else null. A fresh one each time.
+    Q_PROPERTY(Korvane::IOSDeviceViewModel* device READ device NOTIFY deviceChanged FINAL)
     Q_PROPERTY(Korvane::DashboardViewModel* dashboard READ dashboard CONSTANT FINAL)
     Q_PROPERTY(Korvane::FullDiskAccessViewModel* access READ access CONSTANT FINAL)
     Q_PROPERTY(Korvane::SettingsViewModel* settings READ settings CONSTANT FINAL)
@@ -58,6 +61,7 @@ public:
     ScanViewModel* scan() const { return m_scan; }
     UninstallerViewModel* uninstaller() const { return m_uninstaller; }
     MaintenanceViewModel* maintenance() const { return m_maintenance; }
+    IOSDeviceViewModel* device() const { return m_device; }
     DashboardViewModel* dashboard() { return &m_dashboard; }
     FullDiskAccessViewModel* access() { return &m_access; }
     SettingsViewModel* settings() { return &m_settings; }
@@ -73,14 +77,16 @@ Q_SIGNALS:
     void scanChanged();
     void uninstallerChanged();
     void maintenanceChanged();
+    void deviceChanged();
     /// The main window is to open the settings window.
     void settingsRequested();
 
 private:
+    void renewScreens();
     void renewScan();
-    void renewUninstaller();
-    void renewMaintenance();
-    bool isSelected(CleanerModule module) const;
+    /// Makes the screen of a module with `make` when it is selected, and lets go of it when it is not any more.
+    template <typename ScreenModel, typename Make>
+    void renew(ScreenModel*& screen, CleanerModule module, void (ContentViewModel::*changed)(), Make make);
     QList<ModuleViewModel*> modules(std::initializer_list<CleanerModule> modules) const;
 
     const Host m_host;
@@ -97,6 +103,8 @@ private:
     UninstallerViewModel* m_uninstaller = nullptr; ///< A child of this.
     std::shared_ptr<MaintenanceWork> m_maintenanceWork; ///< Of every maintenance screen, past ones too.
     MaintenanceViewModel* m_maintenance = nullptr; ///< A child of this.
+    std::shared_ptr<DeviceWork> m_deviceWork; ///< Of every screen of the devices, past ones too.
+    IOSDeviceViewModel* m_device = nullptr; ///< A child of this.
 };
 
 } // namespace Korvane

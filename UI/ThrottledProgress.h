@@ -4,7 +4,6 @@
 #pragma once
 
 #include "Core/Scanning/ProgressThrottle.h"
-#include "Core/Scanning/ScanProgress.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -14,20 +13,21 @@
 
 namespace Korvane {
 
-/// A handler for any thread that hands reports to `apply(receiver, progress)` on the main thread, at most one in 0.1 s.
+/// A handler for any thread that hands reports to `apply(receiver, progress...)` on the main thread, at most one in 0.1
+/// s.
 ///
 /// Main thread. Holds the receiver weakly: what arrives after its end is dropped. Reports of a run that is no longer of
 /// interest are for `apply` to drop.
-template <typename Receiver, typename Apply> ProgressHandler throttledProgress(Receiver* receiver, Apply apply)
+template <typename Receiver, typename Apply> auto throttledProgress(Receiver* receiver, Apply apply)
 {
     return [weak = QPointer<Receiver>(receiver), apply = std::move(apply), application = QCoreApplication::instance(),
                throttle = std::make_shared<ProgressThrottle>(ProgressThrottle::standardInterval)](
-               const ScanProgress& progress) {
+               const auto&... progress) {
         if (!throttle->shouldEmit())
             return;
-        const auto arrive = [weak, apply, progress] {
+        const auto arrive = [weak, apply, progress...] {
             if (weak)
-                apply(*weak, progress);
+                apply(*weak, progress...);
         };
         QMetaObject::invokeMethod(application, arrive, Qt::QueuedConnection);
     };

@@ -29,7 +29,6 @@ private Q_SLOTS:
     void listsTheModulesInTheirSections();
     void aRowOpensItsModuleAndTheDashboardRowLeadsBack();
     void aCardOpensItsModule();
-    void modulesOfLaterVersionsSaySo();
     void smartScanOpensSystemJunkAndIsTakenUp();
     void aRunningScreenTakesARequestWithoutASecondScan();
     void everythingIsReachedByTab();
@@ -119,12 +118,6 @@ void ContentViewTest::aCardOpensItsModule()
     click(maintenance.last());
     QVERIFY(m_app->state().selectedModule() == CleanerModule::maintenance);
     QVERIFY(!m_app->state().pendingScan());
-}
-
-void ContentViewTest::modulesOfLaterVersionsSaySo()
-{
-    press(QStringLiteral("iPhone & iPad"));
-    QVERIFY(visibleTexts(window()).contains(QStringLiteral("This module is not part of this version yet.")));
 }
 
 void ContentViewTest::smartScanOpensSystemJunkAndIsTakenUp()

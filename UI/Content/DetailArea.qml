@@ -41,12 +41,6 @@ Item {
             visible: detail.viewModel.selectedModule === null
             viewModel: detail.viewModel.dashboard
         }
-        ModuleOverview {
-            anchors.fill: parent
-            visible: module !== null && !module.generic && detail.viewModel.uninstaller === null
-                && detail.viewModel.maintenance === null
-            module: detail.viewModel.selectedModule
-        }
         // A repeater of at most one: a screen keeps its view model for life, also while it is being replaced.
         Repeater {
             model: detail.viewModel.scan === null ? [] : [detail.viewModel.scan]
@@ -88,6 +82,20 @@ Item {
                 focus: true
                 viewModel: modelData
                 Component.onCompleted: area.lead(maintenance)
+            }
+        }
+        Repeater {
+            model: detail.viewModel.device === null ? [] : [detail.viewModel.device]
+
+            IOSDeviceView {
+                id: device
+
+                required property IOSDeviceViewModel modelData
+
+                anchors.fill: parent
+                focus: true
+                viewModel: modelData
+                Component.onCompleted: area.lead(device)
             }
         }
     }

@@ -23,6 +23,9 @@ T.Dialog {
     property color accent: Theme.orange
     property bool destructive: false
 
+    /// Whether it was answered already; while it fades a second press is none.
+    property bool answered: false
+
     parent: T.Overlay.overlay
     anchors.centerIn: parent
     modal: true
@@ -31,6 +34,7 @@ T.Dialog {
     implicitWidth: 400
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     closePolicy: T.Popup.CloseOnEscape
+    onAboutToShow: dialog.answered = false
     onOpened: (dialog.contentItem as ConfirmationContent).focusDefault()
 
     contentItem: ConfirmationContent {
@@ -42,8 +46,16 @@ T.Dialog {
         symbol: dialog.symbol
         accent: dialog.accent
         destructive: dialog.destructive
-        onConfirmed: dialog.accept()
-        onCancelled: dialog.reject()
+        onConfirmed: {
+            if (dialog.answered)
+                return;
+            dialog.answered = true;
+            dialog.accept();
+        }
+        onCancelled: {
+            dialog.answered = true;
+            dialog.reject();
+        }
     }
 
     background: Item {

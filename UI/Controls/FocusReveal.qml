@@ -17,16 +17,25 @@ Item {
 
     onFocusedItemChanged: reveal.show(reveal.focusedItem as T.Control)
 
-    /// Scrolls no further than to see all of a control that the keyboard led to; under a press nothing may move.
+    /// Scrolls no further than to see all of a control that the keyboard led to, or of the list that a row is in; under a
+    /// press nothing may move.
     function show(control: T.Control): void {
-        if (control === null || !control.visualFocus || !reveal.holds(control))
+        if (control === null || !reveal.holds(control))
+            return;
+        const list = reveal.listWithin(control.ListView.view);
+        if (!control.visualFocus && (list === null || !list.byKeyboard))
             return;
         const page = reveal.page;
-        const top = control.mapToItem(page.contentItem, 0, 0).y - Theme.spacingHuge;
-        const bottom = top + control.height + 2 * Theme.spacingHuge;
+        const shown = list !== null ? list : control;
+        const top = shown.mapToItem(page.contentItem, 0, 0).y - Theme.spacingHuge;
+        const bottom = top + shown.height + (list !== null ? list.below : 0) + 2 * Theme.spacingHuge;
         const seen = Math.min(Math.max(page.contentY, bottom - page.height), top);
         const last = page.originY + page.contentHeight + page.bottomMargin - page.height;
         page.contentY = Math.max(page.originY - page.topMargin, Math.min(seen, last));
+    }
+    /// The list, which by itself brings the row into its own view, if it is one on the page.
+    function listWithin(view: var): var {
+        return view === reveal.page || view?.byKeyboard === undefined ? null : view;
     }
     function holds(item: Item): bool {
         let above = item.parent;

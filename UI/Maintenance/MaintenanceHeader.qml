@@ -7,25 +7,13 @@ import QtQuick
 import Korvane.UI
 
 /// What stands above the background items: the title of the page, the tasks, and what the list is.
-FocusScope {
+SteadyScope {
     id: header
 
     required property MaintenanceViewModel viewModel
     /// Left and right of what it shows.
     required property real margin
 
-    /// Leads on from here; whether the keyboard was here, and on none of the controls. It is while the task runs whose
-    /// button was pressed, and where no task can be run.
-    function goOn(forward: bool): bool {
-        if (header.Window.activeFocusItem !== header)
-            return false;
-        const next = (tasks.lastPressed ?? header).nextItemInFocusChain(forward);
-        next.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason);
-        return true;
-    }
-
-    Keys.onTabPressed: event => event.accepted = header.goOn(true)
-    Keys.onBacktabPressed: event => event.accepted = header.goOn(false)
     implicitHeight: column.implicitHeight + Theme.spacingHuge + Theme.spacingMedium
 
     Column {

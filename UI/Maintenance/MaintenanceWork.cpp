@@ -11,23 +11,11 @@
 
 namespace Korvane {
 
-MaintenanceWork::MaintenanceWork(QObject* parent)
-    : QObject(parent)
-{
-    m_threads.setMaxThreadCount(maximum);
-}
-
-MaintenanceWork::~MaintenanceWork()
-{
-    m_cancellation.cancel();
-    m_threads.waitForDone();
-}
-
 void MaintenanceWork::remove(const LaunchAgent& agent, const Host& host)
 {
     runInBackground(
-        m_threads, this,
-        [agent, host, cancellation = m_cancellation] { return removeLaunchAgent(agent, host, cancellation); },
+        threads(), this,
+        [agent, host, cancellation = cancellation()] { return removeLaunchAgent(agent, host, cancellation); },
         [this](const std::optional<std::string>&) { Q_EMIT removed(); });
 }
 

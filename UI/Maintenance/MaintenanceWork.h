@@ -4,11 +4,10 @@
 #pragma once
 
 #include "Core/Maintenance/LaunchAgent.h"
-#include "Platform/Cancellation.h"
 #include "Platform/Host.h"
+#include "UI/WaitingThreads.h"
 
 #include <QObject>
-#include <QThreadPool>
 
 namespace Korvane {
 
@@ -21,12 +20,11 @@ class MaintenanceWork : public QObject {
     Q_OBJECT
 
 public:
-    explicit MaintenanceWork(QObject* parent = nullptr);
-    ~MaintenanceWork() override;
+    using QObject::QObject;
 
-    QThreadPool& threads() { return m_threads; }
+    QThreadPool& threads() { return m_threads.pool(); }
     /// To be heeded by everything that runs here.
-    const Cancellation& cancellation() const { return m_cancellation; }
+    const Cancellation& cancellation() const { return m_threads.cancellation(); }
     /// Stops an agent and moves its file to the Trash.
     void remove(const LaunchAgent& agent, const Host& host);
 
@@ -35,11 +33,7 @@ Q_SIGNALS:
     void removed();
 
 private:
-    /// More prompts than anybody leaves open; a thread is made only when it is needed.
-    static constexpr int maximum = 64;
-
-    QThreadPool m_threads;
-    Cancellation m_cancellation;
+    WaitingThreads m_threads;
 };
 
 } // namespace Korvane

@@ -20,8 +20,6 @@ Card {
     required property string message
     required property bool runnable
 
-    readonly property Item runButton: run
-
     signal runRequested
 
     implicitHeight: column.implicitHeight + 2 * Theme.spacingLarge

@@ -13,9 +13,6 @@ GridLayout {
 
     required property MaintenanceViewModel viewModel
 
-    /// The button that was pressed last; none before.
-    property Item lastPressed: null
-
     /// The narrowest card that still shows every text.
     readonly property int minimumCardWidth: 216
 
@@ -38,10 +35,7 @@ GridLayout {
             Layout.fillHeight: true
             // The same for all, so that all become equally wide.
             Layout.preferredWidth: grid.minimumCardWidth
-            onRunRequested: {
-                grid.lastPressed = card.runButton;
-                grid.viewModel.runTask(card.taskId);
-            }
+            onRunRequested: grid.viewModel.runTask(card.taskId)
         }
     }
 }

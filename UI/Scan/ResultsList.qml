@@ -4,26 +4,17 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Korvane.UI
 
 /// The findings as rows under sticky headings. Arrow keys, Home, End and the Page keys move; Space ticks a row, with Shift
 /// its category; the Menu key, or Shift and F10, opens the row's menu.
-ListView {
+KeyboardList {
     id: list
 
     required property ScanViewModel viewModel
     /// Makes the headings. Not to be created in this file: when Qt 6.4 uses a heading again it looks for "section" in the
     /// context of the component, finds the list's own there, and leaves the heading with the title of another category.
     required property Component heading
-    /// Whether the keyboard was used last, so that the current row shows it.
-    property bool byKeyboard: false
-
-    readonly property int rowsPerPage: Math.max(1, Math.floor(list.height / 40) - 2)
-
-    function moveTo(row: int) {
-        list.currentIndex = Math.max(0, Math.min(list.count - 1, row));
-    }
     function openMenu(itemId: string, place: Item, x: real, y: real) {
         menu.itemId = itemId;
         menu.parent = place;
@@ -31,20 +22,13 @@ ListView {
     }
 
     model: list.viewModel.rows
-    clip: true
-    activeFocusOnTab: true
-    reuseItems: true
-    boundsBehavior: Flickable.StopAtBounds
-    highlightMoveDuration: 0
+    rowHeight: 40
     // What the keyboard goes to is never under the heading that stays at the top.
     highlightRangeMode: ListView.ApplyRange
     preferredHighlightBegin: 44
     preferredHighlightEnd: list.height
     bottomMargin: Theme.spacing
-    currentIndex: 0
-    Accessible.role: Accessible.List
     Accessible.name: qsTr("Findings")
-    T.ScrollBar.vertical: ScrollBar { }
 
     section.property: "category"
     section.labelPositioning: ViewSection.InlineLabels | ViewSection.CurrentLabelAtStart
@@ -64,27 +48,6 @@ ListView {
             list.forceActiveFocus();
             list.openMenu(itemId, this, x, y);
         }
-    }
-
-    Keys.onPressed: event => {
-        list.byKeyboard = true;
-        switch (event.key) {
-        case Qt.Key_Home:
-            list.moveTo(0);
-            break;
-        case Qt.Key_End:
-            list.moveTo(list.count - 1);
-            break;
-        case Qt.Key_PageUp:
-            list.moveTo(list.currentIndex - list.rowsPerPage);
-            break;
-        case Qt.Key_PageDown:
-            list.moveTo(list.currentIndex + list.rowsPerPage);
-            break;
-        default:
-            return;
-        }
-        event.accepted = true;
     }
 
     ItemMenu {

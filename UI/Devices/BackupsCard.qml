@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Korvane.UI
+
+/// The backups of devices that lie on this computer.
+SteadyScope {
+    id: part
+
+    required property IOSDeviceViewModel viewModel
+
+    readonly property bool measuring: part.viewModel.scanningBackups
+    readonly property bool empty: !part.measuring && rows.count === 0
+
+    /// Brings the keyboard to the row that had it, or to the nearest; as soon as there is one.
+    function takeKeyboard(): void {
+        part.forceActiveFocus(Qt.OtherFocusReason);
+        if (rows.visible)
+            rows.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    height: column.height
+    // What had the keyboard goes while the backups are measured, and comes back.
+    onMeasuringChanged: {
+        if (part.measuring)
+            rows.focus = false;
+        else if (part.astray && rows.count > 0)
+            rows.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    Column {
+        id: column
+
+        width: parent.width
+        spacing: Theme.spacingMedium
+
+        DeviceHeading {
+            width: parent.width
+            title: qsTr("iOS Backups on This Mac")
+            subtitle: qsTr("Old iTunes/Finder backups can take tens of gigabytes.")
+        }
+        Card {
+            width: parent.width
+            height: rows.visible ? rows.height : busy.implicitHeight
+            radius: Theme.radiusLarge
+
+            BusyLine {
+                id: busy
+
+                x: Theme.spacingHuge
+                width: parent.width - 2 * x
+                visible: part.measuring
+                text: qsTr("Measuring backups…")
+            }
+            Label {
+                x: Theme.spacingHuge
+                anchors.verticalCenter: parent.verticalCenter
+                visible: part.empty
+                color: Theme.secondaryLabel
+                text: qsTr("No backups found.")
+            }
+            KeyboardList {
+                id: rows
+
+                width: parent.width
+                // More than most people ever have are scrolled through.
+                height: Math.min(rows.count, 8) * rows.rowHeight
+                visible: !part.measuring && rows.count > 0
+                rowHeight: 60
+                model: part.viewModel.backupRows
+                Accessible.name: qsTr("Backups")
+
+                delegate: BackupRow {
+                    width: rows.width
+                    height: rows.rowHeight
+                    showsFocus: rows.byKeyboard
+                    onPointed: rows.pressed(index)
+                    onRemovalRequested: part.viewModel.ask(backupId)
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Korvane.UI
+
+/// The devices on the cable, or why there is none.
+Column {
+    id: part
+
+    required property IOSDeviceViewModel viewModel
+
+    readonly property int found: part.viewModel.deviceState
+    readonly property bool missing: part.found === IOSDeviceViewModel.ToolsMissing
+
+    spacing: Theme.spacingMedium
+
+    DeviceHeading {
+        width: parent.width
+        title: qsTr("Connected Device")
+        refreshable: true
+        refreshEnabled: !part.viewModel.detecting
+        onRefreshRequested: part.viewModel.refreshDevices()
+    }
+    Card {
+        width: parent.width
+        height: part.found === IOSDeviceViewModel.Devices ? devices.height
+            : part.found === IOSDeviceViewModel.Unknown ? 84 : none.implicitHeight + 2 * Theme.spacingHuge
+        radius: Theme.radiusLarge
+
+        BusySpinner {
+            anchors.centerIn: parent
+            width: 24
+            height: 24
+            color: Theme.secondaryLabel
+            running: part.found === IOSDeviceViewModel.Unknown
+        }
+        EmptyState {
+            id: none
+
+            anchors.centerIn: parent
+            width: parent.width - 2 * Theme.spacingHuge
+            visible: part.missing || part.found === IOSDeviceViewModel.NoDevice
+            symbol: part.missing ? "cable.connector" : "iphone.slash"
+            title: part.missing ? qsTr("Device tools not installed") : qsTr("No device connected")
+            description: part.missing ? part.viewModel.toolsHint
+                                      : qsTr("Connect an iPhone or iPad with a cable and tap Trust on the device.")
+        }
+        ListView {
+            id: devices
+
+            readonly property int rowHeight: 88
+
+            width: parent.width
+            // More than hang on cables at once are scrolled through.
+            height: Math.min(devices.count, 4) * devices.rowHeight
+            visible: part.found === IOSDeviceViewModel.Devices
+            interactive: devices.count > 4
+            clip: true
+            boundsBehavior: Flickable.StopAtBounds
+            model: part.viewModel.deviceRows
+            Accessible.role: Accessible.List
+            Accessible.name: qsTr("Connected devices")
+
+            delegate: DeviceRow {
+                width: devices.width
+                height: devices.rowHeight
+                accent: Theme.accent(part.viewModel.module.accent)
+            }
+        }
+    }
+}

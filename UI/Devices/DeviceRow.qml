@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Korvane.UI
+
+/// One device: its name, its system, and how full it is.
+Item {
+    id: row
+
+    required property int index
+    required property string name
+    required property string version
+    required property double usedFraction
+    required property string storage
+    required property color accent
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: row.name
+    Accessible.description: row.version + (row.storage === "" ? "" : ", " + row.storage)
+
+    Separator {
+        x: Theme.spacingLarge
+        width: row.width - 2 * x
+        visible: row.index > 0
+    }
+    Symbol {
+        id: sign
+
+        x: Theme.spacingHuge
+        anchors.verticalCenter: parent.verticalCenter
+        name: "iphone.gen3"
+        size: 40
+        color: row.accent
+    }
+    Column {
+        anchors.left: sign.right
+        anchors.leftMargin: Theme.spacingLarge
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.spacingHuge
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: row.storage === "" ? 2 : Theme.spacing
+
+        Item {
+            width: parent.width
+            height: nameText.implicitHeight
+
+            Label {
+                id: nameText
+
+                width: Math.min(implicitWidth, parent.width - versionText.width - Theme.spacing)
+                style: Label.Headline
+                elide: Text.ElideMiddle
+                text: ShownText.isolated(row.name)
+                Accessible.ignored: true
+            }
+            Label {
+                id: versionText
+
+                anchors.left: nameText.right
+                anchors.leftMargin: Theme.spacing
+                anchors.baseline: nameText.baseline
+                width: Math.min(implicitWidth, parent.width / 2)
+                style: Label.Callout
+                color: Theme.secondaryLabel
+                text: ShownText.isolated(row.version)
+                Accessible.ignored: true
+            }
+        }
+        ProgressBar {
+            width: parent.width
+            visible: row.storage !== ""
+            value: row.usedFraction
+            tint: Theme.blue
+            Accessible.name: qsTr("Used space of %1").arg(row.name)
+            Accessible.description: row.storage
+        }
+        Label {
+            width: parent.width
+            visible: row.storage !== ""
+            style: Label.Callout
+            color: Theme.secondaryLabel
+            text: row.storage
+            Accessible.ignored: true
+        }
+    }
+}
