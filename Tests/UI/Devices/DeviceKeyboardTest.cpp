@@ -17,6 +17,7 @@ private Q_SLOTS:
     void deletesFromTheKeyboard();
     void goesOnFromAButtonThatIsDisabled();
     void keepsTheKeyboardWhileTheCameraRollIsReadAgain();
+    void goesOnOnceTheDeviceIsAnother();
     void removesABackupFromTheKeyboard();
     void scrollsToWhatTheKeyboardReaches();
 
@@ -130,6 +131,27 @@ void DeviceKeyboardTest::keepsTheKeyboardWhileTheCameraRollIsReadAgain()
     devices.letGo("afcclient");
     QTRY_VERIFY(rowOf("100APPLE"));
     QCOMPARE(window()->activeFocusItem(), refresh);
+}
+
+void DeviceKeyboardTest::goesOnOnceTheDeviceIsAnother()
+{
+    const StandInDevices devices = phone();
+    openByKeyboard();
+    QTRY_VERIFY(rowOf("100APPLE"));
+    tabTo("100APPLE");
+    devices.unplugAll();
+    devices.connect("b", "Ben's iPad");
+    devices.addMedia("b", "100APPLE/IMG_1.HEIC");
+    click(refreshButton("Connected Device"));
+    tabTo("100APPLE");
+    QTRY_VERIFY(shows("Photos & Videos on Ben's iPad"));
+    QTRY_VERIFY(rowOf("100APPLE"));
+    // The camera roll that had the keyboard has gone with its device.
+    key(Qt::Key_Tab);
+    QTRY_VERIFY(window()->activeFocusItem()->inherits("QQuickControl"));
+    const QQuickItem* first = window()->activeFocusItem();
+    key(Qt::Key_Tab);
+    QTRY_VERIFY(window()->activeFocusItem() != first && !focused().isEmpty());
 }
 
 void DeviceKeyboardTest::removesABackupFromTheKeyboard()

@@ -29,6 +29,8 @@ private Q_SLOTS:
     void anotherDeviceTakesTheQuestionWithIt();
     void removesABackup();
     void showsThatBackupsAreMeasured();
+    void oneConfirmationIsOneDeletion();
+    void theQuestionGoesWithWhatItAsksAbout();
 };
 
 void DeviceScreenTest::saysThatTheToolsAreMissing()
@@ -250,6 +252,44 @@ void DeviceScreenTest::showsThatBackupsAreMeasured()
     open();
     QVERIFY(shows(utf8("Measuring backups…")));
     QTRY_VERIFY(!shows(utf8("Measuring backups…")) && !shows("No backups found."));
+}
+
+void DeviceScreenTest::oneConfirmationIsOneDeletion()
+{
+    const StandInDevices devices = phone();
+    open();
+    QTRY_VERIFY(folderBox("100APPLE"));
+    pressItem(folderBox("100APPLE"));
+    press("Delete from Device");
+    QTRY_VERIFY(named("Delete Permanently"));
+    QTest::qWait(300);
+    const QQuickItem* button = named("Delete Permanently");
+    const QPoint place = button->mapToScene(button->boundingRect().center()).toPoint();
+    for (int press = 0; press < 4; ++press) {
+        QTest::mouseClick(window(), Qt::LeftButton, {}, place);
+        QTest::qWait(30);
+    }
+    QTRY_VERIFY(shows("Deleted 3 files."));
+    QTRY_VERIFY(!rowOf("100APPLE") && rowOf("101APPLE"));
+    const QStringList commands = QString::fromStdString(devices.commands()).split(QLatin1Char('\n'));
+    QCOMPARE(commands.filter(QStringLiteral("rm ")).size(), 3);
+}
+
+void DeviceScreenTest::theQuestionGoesWithWhatItAsksAbout()
+{
+    const StandInDevices devices = phone();
+    open();
+    QTRY_VERIFY(folderBox("100APPLE"));
+    pressItem(folderBox("100APPLE"));
+    press("Delete from Device");
+    QTRY_VERIFY(named("Delete Permanently"));
+    fs::remove(devices.media("a", "100APPLE/IMG_1.HEIC"));
+    // The window is put away, and the camera roll is read again once it is back.
+    window()->hide();
+    window()->show();
+    QTRY_VERIFY(shows("2 files selected"));
+    QTRY_VERIFY(!named("Delete Permanently"));
+    QVERIFY(!QString::fromStdString(devices.commands()).contains(QStringLiteral("rm ")));
 }
 
 QTEST_MAIN(DeviceScreenTest)
