@@ -65,4 +65,12 @@ bool DeviceScreenFixture::isTicked(const char* file) const
     return item != nullptr && QAccessible::queryAccessibleInterface(item)->state().checked;
 }
 
+void DeviceScreenFixture::askForThree() const
+{
+    open();
+    QTRY_VERIFY(folderBox("100APPLE"));
+    pressItem(folderBox("100APPLE"));
+    press("Delete from Device");
+}
+
 } // namespace Korvane

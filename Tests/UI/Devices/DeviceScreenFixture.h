@@ -30,6 +30,8 @@ protected:
     /// The button beside this heading.
     QQuickItem* refreshButton(const char* heading) const;
     void pressItem(QQuickItem* item) const;
+    /// Opens the screen, ticks the first folder of `phone`, which has three files, and has the user asked about them.
+    void askForThree() const;
     bool isTicked(const char* file) const;
     QString focused() const { return accessibleName(window()->activeFocusItem()); }
     std::filesystem::path downloaded(const char* name) const { return home() / "Downloads" / name; }

@@ -155,10 +155,7 @@ void DeviceScreenTest::exportsToDownloads()
 void DeviceScreenTest::puttingTheQuestionAwayDeletesNothing()
 {
     const StandInDevices devices = phone();
-    open();
-    QTRY_VERIFY(folderBox("100APPLE"));
-    pressItem(folderBox("100APPLE"));
-    press("Delete from Device");
+    askForThree();
     QTRY_VERIFY(shows("Delete 3 files from Anna's iPhone?"));
     key(Qt::Key_Escape);
     QTRY_VERIFY(!named("Delete Permanently"));
@@ -257,10 +254,7 @@ void DeviceScreenTest::showsThatBackupsAreMeasured()
 void DeviceScreenTest::oneConfirmationIsOneDeletion()
 {
     const StandInDevices devices = phone();
-    open();
-    QTRY_VERIFY(folderBox("100APPLE"));
-    pressItem(folderBox("100APPLE"));
-    press("Delete from Device");
+    askForThree();
     QTRY_VERIFY(named("Delete Permanently"));
     QTest::qWait(300);
     const QQuickItem* button = named("Delete Permanently");
@@ -278,10 +272,7 @@ void DeviceScreenTest::oneConfirmationIsOneDeletion()
 void DeviceScreenTest::theQuestionGoesWithWhatItAsksAbout()
 {
     const StandInDevices devices = phone();
-    open();
-    QTRY_VERIFY(folderBox("100APPLE"));
-    pressItem(folderBox("100APPLE"));
-    press("Delete from Device");
+    askForThree();
     QTRY_VERIFY(named("Delete Permanently"));
     fs::remove(devices.media("a", "100APPLE/IMG_1.HEIC"));
     // The window is put away, and the camera roll is read again once it is back.
