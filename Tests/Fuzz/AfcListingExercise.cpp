@@ -33,11 +33,25 @@ std::string wrongInName(const std::string& name, std::string_view bytes)
     return {};
 }
 
+/// Whether the word is what stays of the text when bytes are left out.
+bool staysOf(const std::string& word, const std::string& text)
+{
+    auto at = text.begin();
+    for (const char character : word) {
+        at = std::find(at, text.end(), character);
+        if (at == text.end())
+            return false;
+        ++at;
+    }
+    return true;
+}
+
 /// What is wrong with how the tool may take the path of a file.
 std::string wrongInWords(const std::string& path)
 {
     for (const auto& word : possibleWords(path)) {
-        if (word.empty() || word.find_first_of(" \t") == 0)
+        // One may begin with a blank: where a quote or a backslash keeps it together.
+        if (word.empty() || !staysOf(word, path))
             return "a word that is none";
     }
     if (isListedDevicePath(path) && deviceFolderOf(path) != folder)
