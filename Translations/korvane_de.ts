@@ -86,16 +86,6 @@
     </message>
 </context>
 <context>
-    <name>AppListModel</name>
-    <message numerus="yes">
-        <source>%n leftover items</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>AppParts</name>
     <message>
         <source>Application and leftovers</source>
@@ -216,27 +206,6 @@
     </message>
 </context>
 <context>
-    <name>CleanedTexts</name>
-    <message>
-        <source>%1 cleaned</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message numerus="yes">
-        <source>%Ln items moved to Trash or removed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%Ln items could not be removed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>CleanedView</name>
     <message>
         <source>Hide Details</source>
@@ -338,13 +307,6 @@
     <name>DashboardView</name>
     <message>
         <source>Dashboard</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>DashboardViewModel</name>
-    <message>
-        <source>%1 free of %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -622,7 +584,56 @@
     </message>
 </context>
 <context>
-    <name>IOSDeviceViewModel</name>
+    <name>ItemMenu</name>
+    <message>
+        <source>Show in File Manager</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::AppListModel</name>
+    <message numerus="yes">
+        <source>%n leftover items</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::CleanedTexts</name>
+    <message>
+        <source>%1 cleaned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln items moved to Trash or removed</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln items could not be removed</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::DashboardViewModel</name>
+    <message>
+        <source>%1 free of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::IOSDeviceViewModel</name>
     <message>
         <source>Install libimobiledevice to talk to iPhones and iPads:
 %1</source>
@@ -634,7 +645,7 @@
     </message>
 </context>
 <context>
-    <name>IOSMediaViewModel</name>
+    <name>Korvane::IOSMediaViewModel</name>
     <message numerus="yes">
         <source>%1 of %n folders</source>
         <translation type="unfinished">
@@ -704,7 +715,7 @@
     </message>
 </context>
 <context>
-    <name>InstalledAppTexts</name>
+    <name>Korvane::InstalledAppTexts</name>
     <message>
         <source>No leftover files were found.</source>
         <translation type="unfinished"></translation>
@@ -753,13 +764,90 @@
     </message>
 </context>
 <context>
-    <name>ItemMenu</name>
+    <name>Korvane::MaintenanceViewModel</name>
     <message>
-        <source>Show in File Manager</source>
+        <source>Background Items (%1)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Copy Path</source>
+        <source>Remove %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::ScanConfirmation</name>
+    <message>
+        <source>%1 will be moved to Trash. You can restore it from there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 will be permanently deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete Permanently</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::ScanProgressTexts</name>
+    <message numerus="yes">
+        <source>%Ln found</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::ScanResultsModel</name>
+    <message>
+        <source>All files of this set are one file under several names: removing copies frees no space.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another path of this set leads to this same file: cleaning one removes both.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::ScanViewModel</name>
+    <message>
+        <source>selected of %1 found</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::SettingsViewModel</name>
+    <message>
+        <source>Version %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Korvane::TrayIcon</name>
+    <message>
+        <source>Open Korvane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scan System Junk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit Korvane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Korvane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last cleanup: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -817,17 +905,6 @@
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>MaintenanceViewModel</name>
-    <message>
-        <source>Background Items (%1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Remove %1?</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -930,46 +1007,6 @@
     </message>
 </context>
 <context>
-    <name>ScanConfirmation</name>
-    <message>
-        <source>%1 will be moved to Trash. You can restore it from there.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 will be permanently deleted.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Delete Permanently</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>ScanProgressTexts</name>
-    <message numerus="yes">
-        <source>%Ln found</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>ScanResultsModel</name>
-    <message>
-        <source>All files of this set are one file under several names: removing copies frees no space.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Another path of this set leads to this same file: cleaning one removes both.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>ScanView</name>
     <message>
         <source>Start Scan</source>
@@ -977,13 +1014,6 @@
     </message>
     <message>
         <source>Clean the selected items?</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>ScanViewModel</name>
-    <message>
-        <source>selected of %1 found</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1021,13 +1051,6 @@
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>SettingsViewModel</name>
-    <message>
-        <source>Version %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1114,29 +1137,6 @@
     <name>TaskStatus</name>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>TrayIcon</name>
-    <message>
-        <source>Open Korvane</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Scan System Junk</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Quit Korvane</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Korvane</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Last cleanup: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
