@@ -5,375 +5,375 @@
     <name>AboutSettingsView</name>
     <message>
         <source>Korvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvane</translation>
     </message>
     <message>
         <source>Keep your Mac and iOS devices clean and fast.</source>
-        <translation type="unfinished"></translation>
+        <translation>MacとiOSデバイスをすっきり快適に保ちます。</translation>
     </message>
 </context>
 <context>
     <name>AccessRow</name>
     <message>
         <source>Granted</source>
-        <translation type="unfinished"></translation>
+        <translation>許可済み</translation>
     </message>
     <message>
         <source>Not granted</source>
-        <translation type="unfinished"></translation>
+        <translation>未許可</translation>
     </message>
     <message>
         <source>Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>フルディスクアクセス</translation>
     </message>
     <message>
         <source>Grant…</source>
-        <translation type="unfinished"></translation>
+        <translation>許可…</translation>
     </message>
 </context>
 <context>
     <name>AgentRowContent</name>
     <message>
         <source>Remove %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を削除</translation>
     </message>
 </context>
 <context>
     <name>AgentsPage</name>
     <message>
         <source>Background items</source>
-        <translation type="unfinished"></translation>
+        <translation>バックグラウンド項目</translation>
     </message>
 </context>
 <context>
     <name>AllCleanView</name>
     <message>
         <source>All Clean!</source>
-        <translation type="unfinished"></translation>
+        <translation>きれいです！</translation>
     </message>
     <message>
         <source>Nothing found to clean in this module.</source>
-        <translation type="unfinished"></translation>
+        <translation>このモジュールでクリーニングできるものは見つかりませんでした。</translation>
     </message>
     <message>
         <source>Scan Again</source>
-        <translation type="unfinished"></translation>
+        <translation>もう一度スキャン</translation>
     </message>
 </context>
 <context>
     <name>AppDetail</name>
     <message>
         <source>Select an application</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションを選択してください</translation>
     </message>
     <message>
         <source>Pick an app to see its size and leftover files.</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリを選ぶと、サイズと残存ファイルが表示されます。</translation>
     </message>
 </context>
 <context>
     <name>AppDetailFooter</name>
     <message>
         <source>Uninstall</source>
-        <translation type="unfinished"></translation>
+        <translation>アンインストール</translation>
     </message>
 </context>
 <context>
     <name>AppDetailHeader</name>
     <message>
         <source>App is currently running</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリは実行中です</translation>
     </message>
 </context>
 <context>
     <name>AppParts</name>
     <message>
         <source>Application and leftovers</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションと残存項目</translation>
     </message>
     <message>
         <source>Application</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーション</translation>
     </message>
 </context>
 <context>
     <name>ApplicationMenu</name>
     <message>
         <source>Korvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvane</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>設定…</translation>
     </message>
 </context>
 <context>
     <name>AppsList</name>
     <message>
         <source>Applications</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーション</translation>
     </message>
 </context>
 <context>
     <name>AppsPane</name>
     <message>
         <source>Search apps</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリを検索</translation>
     </message>
     <message>
         <source>Scan Again</source>
-        <translation type="unfinished"></translation>
+        <translation>もう一度スキャン</translation>
     </message>
     <message>
         <source>No matching apps</source>
-        <translation type="unfinished"></translation>
+        <translation>一致するアプリはありません</translation>
     </message>
     <message>
         <source>No applications found</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションが見つかりません</translation>
     </message>
     <message>
         <source>Only names are searched.</source>
-        <translation type="unfinished"></translation>
+        <translation>検索の対象は名前だけです。</translation>
     </message>
     <message>
         <source>There are none in the application folders.</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションフォルダには何もありません。</translation>
     </message>
 </context>
 <context>
     <name>BackupRowContent</name>
     <message>
         <source>Delete backup of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1のバックアップを削除</translation>
     </message>
 </context>
 <context>
     <name>BackupsCard</name>
     <message>
         <source>iOS Backups on This Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>このMac内のiOSバックアップ</translation>
     </message>
     <message>
         <source>Old iTunes/Finder backups can take tens of gigabytes.</source>
-        <translation type="unfinished"></translation>
+        <translation>古いiTunes/Finderのバックアップは数十ギガバイトに及ぶことがあります。</translation>
     </message>
     <message>
         <source>Measuring backups…</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップを計測中…</translation>
     </message>
     <message>
         <source>No backups found.</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップが見つかりません。</translation>
     </message>
     <message>
         <source>Backups</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップ</translation>
     </message>
 </context>
 <context>
     <name>BusySpinner</name>
     <message>
         <source>Busy</source>
-        <translation type="unfinished"></translation>
+        <translation>処理中</translation>
     </message>
 </context>
 <context>
     <name>Categories</name>
     <message>
         <source>User Caches</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザキャッシュ</translation>
     </message>
     <message>
         <source>Log Files</source>
-        <translation type="unfinished"></translation>
+        <translation>ログファイル</translation>
     </message>
     <message>
         <source>Xcode Junk</source>
-        <translation type="unfinished"></translation>
+        <translation>Xcodeの不要ファイル</translation>
     </message>
     <message>
         <source>Temporary Files</source>
-        <translation type="unfinished"></translation>
+        <translation>一時ファイル</translation>
     </message>
     <message>
         <source>Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>ゴミ箱</translation>
     </message>
     <message>
         <source>Large Files</source>
-        <translation type="unfinished"></translation>
+        <translation>大きいファイル</translation>
     </message>
 </context>
 <context>
     <name>CleanedView</name>
     <message>
         <source>Hide Details</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細を隠す</translation>
     </message>
     <message>
         <source>Show Details</source>
-        <translation type="unfinished"></translation>
+        <translation>詳細を表示</translation>
     </message>
     <message>
         <source>Scan Again</source>
-        <translation type="unfinished"></translation>
+        <translation>もう一度スキャン</translation>
     </message>
 </context>
 <context>
     <name>CleanerModule</name>
     <message>
         <source>System Junk</source>
-        <translation type="unfinished"></translation>
+        <translation>システムの不要ファイル</translation>
     </message>
     <message>
         <source>Caches, logs and leftover development junk</source>
-        <translation type="unfinished"></translation>
+        <translation>キャッシュ、ログ、開発の残存ファイル</translation>
     </message>
     <message>
         <source>Large &amp; Old Files</source>
-        <translation type="unfinished"></translation>
+        <translation>大きいファイルと古いファイル</translation>
     </message>
     <message>
         <source>Find the files eating your disk</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスクを占有しているファイルを探します</translation>
     </message>
     <message>
         <source>Uninstaller</source>
-        <translation type="unfinished"></translation>
+        <translation>アンインストーラ</translation>
     </message>
     <message>
         <source>Remove apps with all their leftovers</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリを残存項目ごと削除します</translation>
     </message>
     <message>
         <source>Maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>メンテナンス</translation>
     </message>
     <message>
         <source>Speed up and maintain your Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Macを高速に保ち、手入れします</translation>
     </message>
     <message>
         <source>Duplicates</source>
-        <translation type="unfinished"></translation>
+        <translation>重複ファイル</translation>
     </message>
     <message>
         <source>Find duplicate files and photos</source>
-        <translation type="unfinished"></translation>
+        <translation>重複しているファイルや写真を探します</translation>
     </message>
     <message>
         <source>iPhone &amp; iPad</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhoneとiPad</translation>
     </message>
     <message>
         <source>Clean a connected iPhone or iPad</source>
-        <translation type="unfinished"></translation>
+        <translation>接続中のiPhoneやiPadを整理します</translation>
     </message>
 </context>
 <context>
     <name>CleaningView</name>
     <message>
         <source>Cleaning…</source>
-        <translation type="unfinished"></translation>
+        <translation>クリーニング中…</translation>
     </message>
 </context>
 <context>
     <name>ConfirmationDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>ContentView</name>
     <message>
         <source>Korvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvane</translation>
     </message>
 </context>
 <context>
     <name>DashboardHeader</name>
     <message>
         <source>Welcome to Korvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvaneへようこそ</translation>
     </message>
     <message>
         <source>Keep your Mac — and soon your iPhone — clean and fast.</source>
-        <translation type="unfinished"></translation>
+        <translation>Macを、そして間もなくiPhoneも、すっきり快適に保ちます。</translation>
     </message>
 </context>
 <context>
     <name>DashboardView</name>
     <message>
         <source>Dashboard</source>
-        <translation type="unfinished"></translation>
+        <translation>ダッシュボード</translation>
     </message>
 </context>
 <context>
     <name>DeviceCard</name>
     <message>
         <source>Connected Device</source>
-        <translation type="unfinished"></translation>
+        <translation>接続中のデバイス</translation>
     </message>
     <message>
         <source>Device tools not installed</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスツールがインストールされていません</translation>
     </message>
     <message>
         <source>No device connected</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスが接続されていません</translation>
     </message>
     <message>
         <source>Connect an iPhone or iPad with a cable and tap Trust on the device.</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhoneまたはiPadをケーブルで接続し、デバイスで「信頼」をタップしてください。</translation>
     </message>
     <message>
         <source>Connected devices</source>
-        <translation type="unfinished"></translation>
+        <translation>接続中のデバイス</translation>
     </message>
 </context>
 <context>
     <name>DeviceHeading</name>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>更新</translation>
     </message>
 </context>
 <context>
     <name>DeviceRow</name>
     <message>
         <source>Used space of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1の使用領域</translation>
     </message>
 </context>
 <context>
     <name>Devices</name>
     <message>
         <source>iOS %1</source>
-        <translation type="unfinished"></translation>
+        <translation>iOS %1</translation>
     </message>
     <message>
         <source>%1 used of %2 — %3 free</source>
-        <translation type="unfinished"></translation>
+        <translation>%2中%1を使用 — 空き%3</translation>
     </message>
     <message>
         <source>· last backup %1</source>
-        <translation type="unfinished"></translation>
+        <translation>· 前回のバックアップ: %1</translation>
     </message>
     <message>
         <source>d MMM yyyy</source>
-        <translation type="unfinished"></translation>
+        <translation>yyyy年M月d日</translation>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%nファイル</numerusform>
         </translation>
     </message>
     <message>
         <source>iOS Device</source>
-        <translation type="unfinished"></translation>
+        <translation>iOSデバイス</translation>
     </message>
 </context>
 <context>
@@ -381,223 +381,223 @@
     <message numerus="yes">
         <source>%1 — %n copies, %2 each</source>
         <comment>%1 is the name of a file, %2 the size of each copy</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 — %nコピー、各%2</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 (original)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（オリジナル）</translation>
     </message>
 </context>
 <context>
     <name>Errors</name>
     <message>
         <source>The listing of %1 is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>%1の一覧が長すぎます</translation>
     </message>
     <message>
         <source>afcclient not found — install libimobiledevice</source>
-        <translation type="unfinished"></translation>
+        <translation>afcclientが見つかりません — libimobiledeviceをインストールしてください</translation>
     </message>
     <message>
         <source>Export failed for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1の書き出しに失敗しました</translation>
     </message>
     <message>
         <source>Export failed for %1; what lies there now could not be moved to the Trash: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1の書き出しに失敗しました。その場所に残ったものをゴミ箱に入れられませんでした: %2</translation>
     </message>
     <message>
         <source>stopping it was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>停止がキャンセルされました</translation>
     </message>
     <message>
         <source>%1 took too long</source>
-        <translation type="unfinished"></translation>
+        <translation>%1に時間がかかりすぎました</translation>
     </message>
     <message>
         <source>systemctl is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>systemctlがありません</translation>
     </message>
     <message>
         <source>systemctl failed</source>
-        <translation type="unfinished"></translation>
+        <translation>systemctlが失敗しました</translation>
     </message>
     <message>
         <source>not moved to the Trash: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ゴミ箱に入れられませんでした: %1</translation>
     </message>
     <message>
         <source>moved to the Trash, but it may still run until the next login: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ゴミ箱に入れましたが、次のログインまで動作し続ける可能性があります: %1</translation>
     </message>
     <message>
         <source>Unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>不明なエラー</translation>
     </message>
     <message>
         <source>“%1” is not a Trash of this user.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”はこのユーザのゴミ箱ではありません。</translation>
     </message>
     <message>
         <source>“%1” is a link; what it leads to is left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”はリンクです。リンク先には触れません。</translation>
     </message>
     <message>
         <source>“%1” holds the Trash, and cannot be moved into it.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”はゴミ箱を含んでいるため、ゴミ箱に入れられません。</translation>
     </message>
     <message>
         <source>“%1”, the Trash of this volume, is not a folder of this user.</source>
-        <translation type="unfinished"></translation>
+        <translation>このボリュームのゴミ箱“%1”は、このユーザのフォルダではありません。</translation>
     </message>
     <message>
         <source>Nothing was named to be removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>削除するものが指定されていません。</translation>
     </message>
     <message>
         <source>“%1” cannot be the name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”はファイル名として使えません。</translation>
     </message>
     <message>
         <source>“%1” is not a full path.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”は完全なパスではありません。</translation>
     </message>
     <message>
         <source>The root of the file system is never removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルシステムのルートが削除されることはありません。</translation>
     </message>
     <message>
         <source>“%1” does not name an item but a way to one.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”は項目ではなく、項目への経路を示しています。</translation>
     </message>
     <message>
         <source>“%1” is the home folder, or holds it, and is never removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”はホームフォルダかそれを含むフォルダなので、削除されることはありません。</translation>
     </message>
     <message>
         <source>“%1” is where a volume is mounted, and is never removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”にはボリュームがマウントされているため、削除されることはありません。</translation>
     </message>
     <message>
         <source>“%1” is a folder shared by all users, and is never removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”は全ユーザの共有フォルダなので、削除されることはありません。</translation>
     </message>
     <message>
         <source>A volume is mounted inside</source>
-        <translation type="unfinished"></translation>
+        <translation>中にボリュームがマウントされています</translation>
     </message>
     <message>
         <source>There is nothing to flush: this machine keeps no DNS cache</source>
-        <translation type="unfinished"></translation>
+        <translation>消去するものはありません: このコンピュータにDNSキャッシュはありません</translation>
     </message>
     <message>
         <source>pkexec is missing, which asks for an administrator&apos;s password</source>
-        <translation type="unfinished"></translation>
+        <translation>管理者のパスワードを求めるpkexecがありません</translation>
     </message>
     <message>
         <source>%1 is missing, which frees memory</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリを解放する%1がありません</translation>
     </message>
     <message>
         <source>No search index is installed (localsearch, tracker3 or balooctl)</source>
-        <translation type="unfinished"></translation>
+        <translation>検索インデックスがインストールされていません（localsearch、tracker3、balooctlのいずれか）</translation>
     </message>
     <message>
         <source>The request for an administrator&apos;s password was dismissed; nothing was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>管理者パスワードの要求が取り消されました。何も変更されていません</translation>
     </message>
     <message>
         <source>An administrator&apos;s rights were not given; nothing was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>管理者権限が与えられませんでした。何も変更されていません</translation>
     </message>
     <message>
         <source>No program that asks for an administrator&apos;s password is running (a polkit agent); nothing was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>管理者パスワードを求めるプログラム（polkitエージェント）が動作していません。何も変更されていません</translation>
     </message>
     <message>
         <source>An administrator&apos;s password could not be asked for: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>管理者パスワードを求められませんでした: %1</translation>
     </message>
     <message>
         <source>The command failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンドが失敗しました: %1</translation>
     </message>
     <message>
         <source>The command was ended by signal %1</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンドはシグナル%1で終了しました</translation>
     </message>
     <message>
         <source>The command failed with status %1</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンドはステータス%1で失敗しました</translation>
     </message>
 </context>
 <context>
     <name>FailuresList</name>
     <message>
         <source>Items that could not be removed</source>
-        <translation type="unfinished"></translation>
+        <translation>削除できなかった項目</translation>
     </message>
 </context>
 <context>
     <name>FullDiskAccessBanner</name>
     <message>
         <source>Grant Full Disk Access</source>
-        <translation type="unfinished"></translation>
+        <translation>フルディスクアクセスを許可</translation>
     </message>
     <message>
         <source>Korvane can only see part of your junk until you allow it in System Settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>システム設定で許可するまで、Korvaneには不要ファイルの一部しか見えません。</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を開く</translation>
     </message>
 </context>
 <context>
     <name>GeneralSettingsView</name>
     <message>
         <source>Move files to Trash instead of deleting</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを削除せずにゴミ箱に入れる</translation>
     </message>
     <message>
         <source>Ask for confirmation before cleaning</source>
-        <translation type="unfinished"></translation>
+        <translation>クリーニングの前に確認する</translation>
     </message>
     <message>
         <source>Permissions</source>
-        <translation type="unfinished"></translation>
+        <translation>アクセス権</translation>
     </message>
 </context>
 <context>
     <name>IOSDeviceView</name>
     <message>
         <source>You won&apos;t be able to restore this device from this backup afterwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>以後、このバックアップからデバイスを復元することはできなくなります。</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>ゴミ箱に入れる</translation>
     </message>
 </context>
 <context>
     <name>ItemMenu</name>
     <message>
         <source>Show in File Manager</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルマネージャで表示</translation>
     </message>
     <message>
         <source>Copy Path</source>
-        <translation type="unfinished"></translation>
+        <translation>パスをコピー</translation>
     </message>
 </context>
 <context>
     <name>Korvane::AppListModel</name>
     <message numerus="yes">
         <source>%n leftover items</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>残存項目%n件</numerusform>
         </translation>
     </message>
 </context>
@@ -605,18 +605,18 @@
     <name>Korvane::CleanedTexts</name>
     <message>
         <source>%1 cleaned</source>
-        <translation type="unfinished"></translation>
+        <translation>%1をクリーニングしました</translation>
     </message>
     <message numerus="yes">
         <source>%Ln items moved to Trash or removed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln項目をゴミ箱に入れるか削除しました</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln items could not be removed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln項目は削除できませんでした</numerusform>
         </translation>
     </message>
 </context>
@@ -624,7 +624,7 @@
     <name>Korvane::DashboardViewModel</name>
     <message>
         <source>%1 free of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2中%1が空き</translation>
     </message>
 </context>
 <context>
@@ -632,71 +632,72 @@
     <message>
         <source>Install libimobiledevice to talk to iPhones and iPads:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>iPhoneやiPadと通信するにはlibimobiledeviceをインストールしてください:
+%1</translation>
     </message>
     <message>
         <source>Delete backup of %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1のバックアップを削除しますか？</translation>
     </message>
 </context>
 <context>
     <name>Korvane::IOSMediaViewModel</name>
     <message numerus="yes">
         <source>%1 of %n folders</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1／%nフォルダ</numerusform>
         </translation>
     </message>
     <message>
         <source>Photos &amp; Videos on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1の写真とビデオ</translation>
     </message>
     <message numerus="yes">
         <source>%n files selected</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%nファイルを選択中</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Exporting %n files to Downloads…</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%nファイルを「ダウンロード」に書き出し中…</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Exported %n files to Downloads.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%nファイルを「ダウンロード」に書き出しました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Exported %n files, %1 failed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%nファイルを書き出し、%1ファイルは失敗しました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n files from %1?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1から%nファイルを削除しますか？</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Deleting %n files…</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%nファイルを削除中…</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Deleted %n files.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%nファイルを削除しました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Deleted %n files, %1 failed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%nファイルを削除し、%1ファイルは失敗しました。</numerusform>
         </translation>
     </message>
 </context>
@@ -704,85 +705,85 @@
     <name>Korvane::InstalledAppTexts</name>
     <message>
         <source>No leftover files were found.</source>
-        <translation type="unfinished"></translation>
+        <translation>残存ファイルは見つかりませんでした。</translation>
     </message>
     <message>
         <source>Without a usable identifier, no leftover files can be told to be this app’s.</source>
-        <translation type="unfinished"></translation>
+        <translation>使用可能な識別子がないため、このアプリの残存ファイルを特定できません。</translation>
     </message>
     <message>
         <source>Leftovers (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>残存項目（%1）</translation>
     </message>
     <message>
         <source>Uninstall %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1をアンインストールしますか？</translation>
     </message>
     <message>
         <source>Removes the app for good and moves all leftovers to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリを完全に削除し、残存項目をすべてゴミ箱に入れます</translation>
     </message>
     <message numerus="yes">
         <source>Flatpak will remove the app for good: it can be installed again, but not be put back. %n leftover items will be moved to Trash.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Flatpakがアプリを完全に削除します。再インストールはできますが、元に戻すことはできません。残存項目%n件はゴミ箱に入れられます。</numerusform>
         </translation>
     </message>
     <message>
         <source>Uninstall</source>
-        <translation type="unfinished"></translation>
+        <translation>アンインストール</translation>
     </message>
     <message>
         <source>Removes the app and all leftovers to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリと残存項目をすべてゴミ箱に入れます</translation>
     </message>
     <message numerus="yes">
         <source>The app and %n leftover items will be moved to Trash.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>アプリと残存項目%n件がゴミ箱に入れられます。</numerusform>
         </translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>ゴミ箱に入れる</translation>
     </message>
 </context>
 <context>
     <name>Korvane::MaintenanceViewModel</name>
     <message>
         <source>Background Items (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>バックグラウンド項目（%1）</translation>
     </message>
     <message>
         <source>Remove %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を削除しますか？</translation>
     </message>
 </context>
 <context>
     <name>Korvane::ScanConfirmation</name>
     <message>
         <source>%1 will be moved to Trash. You can restore it from there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1がゴミ箱に入れられます。ゴミ箱から元に戻すことができます。</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>ゴミ箱に入れる</translation>
     </message>
     <message>
         <source>%1 will be permanently deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1が完全に削除されます。</translation>
     </message>
     <message>
         <source>Delete Permanently</source>
-        <translation type="unfinished"></translation>
+        <translation>完全に削除</translation>
     </message>
 </context>
 <context>
     <name>Korvane::ScanProgressTexts</name>
     <message numerus="yes">
         <source>%Ln found</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln件検出</numerusform>
         </translation>
     </message>
 </context>
@@ -790,344 +791,344 @@
     <name>Korvane::ScanResultsModel</name>
     <message>
         <source>All files of this set are one file under several names: removing copies frees no space.</source>
-        <translation type="unfinished"></translation>
+        <translation>このグループのファイルは、複数の名前を持つ1つのファイルです。コピーを削除しても空き容量は増えません。</translation>
     </message>
     <message>
         <source>Another path of this set leads to this same file: cleaning one removes both.</source>
-        <translation type="unfinished"></translation>
+        <translation>このグループの別のパスが同じファイルを指しています。一方をクリーニングすると両方とも削除されます。</translation>
     </message>
 </context>
 <context>
     <name>Korvane::ScanViewModel</name>
     <message>
         <source>selected of %1 found</source>
-        <translation type="unfinished"></translation>
+        <translation>を選択中（検出 %1）</translation>
     </message>
 </context>
 <context>
     <name>Korvane::SettingsViewModel</name>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン%1</translation>
     </message>
 </context>
 <context>
     <name>Korvane::TrayIcon</name>
     <message>
         <source>Open Korvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvaneを開く</translation>
     </message>
     <message>
         <source>Scan System Junk</source>
-        <translation type="unfinished"></translation>
+        <translation>システムの不要ファイルをスキャン</translation>
     </message>
     <message>
         <source>Quit Korvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvaneを終了</translation>
     </message>
     <message>
         <source>Korvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvane</translation>
     </message>
     <message>
         <source>Last cleanup: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>前回のクリーニング: %1</translation>
     </message>
 </context>
 <context>
     <name>Maintenance</name>
     <message>
         <source>Free Up RAM</source>
-        <translation type="unfinished"></translation>
+        <translation>RAMを解放</translation>
     </message>
     <message>
         <source>Purge inactive memory to relieve pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>使われていないメモリを解放して負荷を下げます</translation>
     </message>
     <message>
         <source>Flush DNS Cache</source>
-        <translation type="unfinished"></translation>
+        <translation>DNSキャッシュを消去</translation>
     </message>
     <message>
         <source>Fix stale DNS lookups and network glitches</source>
-        <translation type="unfinished"></translation>
+        <translation>古いDNS参照やネットワークの不調を直します</translation>
     </message>
     <message>
         <source>Reindex Spotlight</source>
-        <translation type="unfinished"></translation>
+        <translation>Spotlightのインデックスを再作成</translation>
     </message>
     <message>
         <source>Rebuild the search index from scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>検索インデックスを最初から作り直します</translation>
     </message>
     <message>
         <source>User Agents</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザエージェント</translation>
     </message>
     <message>
         <source>System Agents</source>
-        <translation type="unfinished"></translation>
+        <translation>システムエージェント</translation>
     </message>
     <message>
         <source>System Daemons</source>
-        <translation type="unfinished"></translation>
+        <translation>システムデーモン</translation>
     </message>
 </context>
 <context>
     <name>MaintenanceHeader</name>
     <message>
         <source>Launch agents and daemons that start automatically. Removing a user agent moves its file to Trash.</source>
-        <translation type="unfinished"></translation>
+        <translation>自動的に起動するエージェントとデーモンです。ユーザエージェントを削除すると、そのファイルがゴミ箱に入ります。</translation>
     </message>
 </context>
 <context>
     <name>MaintenanceView</name>
     <message>
         <source>The launch agent file will be moved to Trash. It stops running after the next login.</source>
-        <translation type="unfinished"></translation>
+        <translation>エージェントのファイルはゴミ箱に入れられます。次のログイン以降は動作しなくなります。</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>ゴミ箱に入れる</translation>
     </message>
 </context>
 <context>
     <name>MediaActions</name>
     <message>
         <source>Export Selected to Downloads</source>
-        <translation type="unfinished"></translation>
+        <translation>選択項目を「ダウンロード」に書き出す</translation>
     </message>
     <message>
         <source>Delete from Device</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスから削除</translation>
     </message>
 </context>
 <context>
     <name>MediaBrowser</name>
     <message>
         <source>Camera roll</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラロール</translation>
     </message>
 </context>
 <context>
     <name>MediaNotice</name>
     <message>
         <source>No media found in the camera roll.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラロールに写真やビデオがありません。</translation>
     </message>
 </context>
 <context>
     <name>MediaRow</name>
     <message>
         <source>open</source>
-        <translation type="unfinished"></translation>
+        <translation>開いています</translation>
     </message>
     <message>
         <source>closed</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じています</translation>
     </message>
 </context>
 <context>
     <name>MediaSection</name>
     <message>
         <source>Files in the camera roll, via USB. Deleting here is permanent — the device has no trash.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラロール内のファイル（USB経由）。デバイスにはゴミ箱がないため、ここでの削除は取り消せません。</translation>
     </message>
     <message>
         <source>Reading camera roll…</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラロールを読み込み中…</translation>
     </message>
     <message>
         <source>This permanently deletes the files from the device. It cannot be undone. Export anything you want to keep first.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルはデバイスから完全に削除されます。この操作は取り消せません。残しておきたいものは先に書き出してください。</translation>
     </message>
     <message>
         <source>Delete Permanently</source>
-        <translation type="unfinished"></translation>
+        <translation>完全に削除</translation>
     </message>
 </context>
 <context>
     <name>ModuleGrid</name>
     <message>
         <source>Modules</source>
-        <translation type="unfinished"></translation>
+        <translation>モジュール</translation>
     </message>
 </context>
 <context>
     <name>ResultRow</name>
     <message>
         <source>Not selected by default — may be in use or needed by the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>最初は選択されていません — 使用中か、システムに必要な可能性があります。</translation>
     </message>
 </context>
 <context>
     <name>ResultsHeader</name>
     <message>
         <source>Deselect All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて選択解除</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて選択</translation>
     </message>
     <message>
         <source>Rescan</source>
-        <translation type="unfinished"></translation>
+        <translation>再スキャン</translation>
     </message>
 </context>
 <context>
     <name>ResultsList</name>
     <message>
         <source>Findings</source>
-        <translation type="unfinished"></translation>
+        <translation>検出項目</translation>
     </message>
 </context>
 <context>
     <name>ResultsView</name>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>クリーニング</translation>
     </message>
 </context>
 <context>
     <name>ScanView</name>
     <message>
         <source>Start Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>スキャンを開始</translation>
     </message>
     <message>
         <source>Clean the selected items?</source>
-        <translation type="unfinished"></translation>
+        <translation>選択した項目をクリーニングしますか？</translation>
     </message>
 </context>
 <context>
     <name>ScanningApps</name>
     <message>
         <source>Scanning applications…</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションをスキャン中…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>ScanningView</name>
     <message>
         <source>Scanning…</source>
-        <translation type="unfinished"></translation>
+        <translation>スキャン中…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>SettingsView</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>一般</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>情報</translation>
     </message>
 </context>
 <context>
     <name>Sidebar</name>
     <message>
         <source>Modules</source>
-        <translation type="unfinished"></translation>
+        <translation>モジュール</translation>
     </message>
     <message>
         <source>Dashboard</source>
-        <translation type="unfinished"></translation>
+        <translation>ダッシュボード</translation>
     </message>
     <message>
         <source>Cleanup</source>
-        <translation type="unfinished"></translation>
+        <translation>クリーニング</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>スピード</translation>
     </message>
     <message>
         <source>Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイス</translation>
     </message>
 </context>
 <context>
     <name>SidebarHeader</name>
     <message>
         <source>Korvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvane</translation>
     </message>
     <message>
         <source>Application menu</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションメニュー</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>設定…</translation>
     </message>
     <message>
         <source>Ctrl+,</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+,</translation>
     </message>
     <message>
         <source>Quit Korvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Korvaneを終了</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+Q</translation>
     </message>
 </context>
 <context>
     <name>StorageOverviewCard</name>
     <message>
         <source>Startup Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>起動ディスク</translation>
     </message>
     <message>
         <source>Used space of the startup disk</source>
-        <translation type="unfinished"></translation>
+        <translation>起動ディスクの使用領域</translation>
     </message>
     <message>
         <source>Smart Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>スマートスキャン</translation>
     </message>
 </context>
 <context>
     <name>TaskCard</name>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>実行</translation>
     </message>
 </context>
 <context>
     <name>TaskGrid</name>
     <message>
         <source>Maintenance tasks</source>
-        <translation type="unfinished"></translation>
+        <translation>メンテナンスタスク</translation>
     </message>
 </context>
 <context>
     <name>TaskStatus</name>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>完了</translation>
     </message>
 </context>
 <context>
     <name>UninstallerView</name>
     <message>
         <source>Scan Applications</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションをスキャン</translation>
     </message>
 </context>
 </TS>
