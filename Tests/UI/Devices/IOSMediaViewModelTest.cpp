@@ -34,9 +34,6 @@ private Q_SLOTS:
     void aDeletionOutlivesItsScreen();
     void doesOneThingAtATime();
     void whatIsTickedOnOneDeviceIsNotOnAnother();
-    void filesOfOneNameAreTwoFiles();
-    void exportsTheOneOfTwoThatIsTicked();
-    void deletesTheOneOfTwoThatIsTicked();
 
 private:
     const StandInDevices& devices() const { return m_home->devices; }
@@ -49,14 +46,6 @@ private:
     {
         m_model->load();
         QTRY_VERIFY(m_model->phase() != Phase::Loading);
-    }
-    /// Two folders that have a file "IMG_1.JPG" each, and the second also another.
-    void listTwoOfOneName() const
-    {
-        fs::remove_all(devices().media("a", ""));
-        for (const char* path : { "100APPLE/IMG_1.JPG", "101APPLE/IMG_1.JPG", "101APPLE/IMG_2.JPG" })
-            devices().addMedia("a", path);
-        load();
     }
     QString status() const { return m_model->shownStatusMessage(); }
     bool isOnDevice(const std::string& path) const { return fs::exists(devices().media("a", path)); }
@@ -280,49 +269,6 @@ void IOSMediaViewModelTest::whatIsTickedOnOneDeviceIsNotOnAnother()
     m_model->deleteSelected();
     QTest::qWait(100);
     QVERIFY(fs::exists(devices().media("b", "100APPLE/IMG_1.HEIC")) && isOnDevice("100APPLE/IMG_1.HEIC"));
-}
-
-void IOSMediaViewModelTest::filesOfOneNameAreTwoFiles()
-{
-    listTwoOfOneName();
-    const auto isTicked
-        = [&](int row) { return m_model->rows()->index(row).data(MediaTreeModel::TicksRole).toInt() == Qt::Checked; };
-    m_model->rows()->setOpen(0, true);
-    m_model->rows()->setOpen(1, true);
-    m_model->rows()->toggleFile(1, 0);
-    QVERIFY(!isTicked(1) && isTicked(3) && !isTicked(4));
-    m_model->rows()->toggleFile(0, 0);
-    QCOMPARE(m_model->selectionText(), QStringLiteral("2 files selected"));
-    m_model->exportSelected();
-    QTRY_VERIFY(!m_model->isWorking());
-    // Both go to one name: the first is there, whole, and that the second is not is said.
-    QCOMPARE(status(), QStringLiteral("Exported 1 files, 1 failed."));
-    QCOMPARE(readFile(downloaded("IMG_1.JPG")), std::string("100APPLE/IMG_1.JPG"));
-    m_model->deleteSelected();
-    QTRY_COMPARE(status(), QStringLiteral("Deleted 2 files."));
-    QVERIFY(!isOnDevice("100APPLE/IMG_1.JPG") && !isOnDevice("101APPLE/IMG_1.JPG"));
-    QVERIFY(isOnDevice("101APPLE/IMG_2.JPG"));
-}
-
-void IOSMediaViewModelTest::exportsTheOneOfTwoThatIsTicked()
-{
-    listTwoOfOneName();
-    m_model->rows()->toggleFile(1, 0);
-    m_model->exportSelected();
-    QTRY_COMPARE(status(), QStringLiteral("Exported 1 files to Downloads."));
-    QCOMPARE(readFile(downloaded("IMG_1.JPG")), std::string("101APPLE/IMG_1.JPG"));
-}
-
-void IOSMediaViewModelTest::deletesTheOneOfTwoThatIsTicked()
-{
-    listTwoOfOneName();
-    m_model->rows()->toggleFile(1, 0);
-    m_model->deleteSelected();
-    QTRY_COMPARE(status(), QStringLiteral("Deleted 1 files."));
-    QTRY_VERIFY(m_model->phase() == Phase::Loaded);
-    QVERIFY(isOnDevice("100APPLE/IMG_1.JPG") && !isOnDevice("101APPLE/IMG_1.JPG"));
-    // The other has no tick, whoever had the name.
-    QCOMPARE(m_model->selectionText(), QStringLiteral("0 files selected"));
 }
 
 QTEST_GUILESS_MAIN(IOSMediaViewModelTest)
