@@ -8,7 +8,7 @@
 #include "Platform/FileAttributes.h"
 #include "Platform/FileError.h"
 #include "Platform/FileIdentity.h"
-#include "Platform/VolumeCapacity.h"
+#include "Platform/FullVolume.h"
 
 #include <algorithm>
 #include <system_error>
@@ -68,8 +68,7 @@ bool ExportDestination::hasArrived() const
     std::error_code error;
     if (!isFileAt(place) || std::filesystem::file_size(place, error) == 0 || error)
         return false;
-    const auto capacity = volumeCapacity(place.parent_path());
-    return !capacity || capacity->availableForImportantUsage > 0;
+    return !isVolumeFull(place.parent_path());
 }
 
 std::optional<std::string> ExportDestination::trashWhatLiesThere(FileManager& files) const
