@@ -3,7 +3,9 @@
 
 #include "Tests/Core/RandomHome.h"
 
+#include "Platform/DisplayText.h"
 #include "Tests/Core/ScanFixture.h"
+#include "Tests/Support/NamesOfAnyBytes.h"
 
 #include <array>
 #include <system_error>
@@ -21,7 +23,8 @@ std::string RandomHome::randomName()
         "venv", "bower_components", "__pycache__", ".venv", ".git", ".build", ".gradle", ".terraform", ".m2",
         "Node_Modules", "library", ".hidden", ".Trash", ".cache", "Editor.app", "TOOL.APP", "Photos.photoslibrary",
         "x.bundle", "bad\xff", "com.apple.thing", "org.example.Player", "with space", "\xC3\xA9t\xC3\xA9" };
-    return names[below(names.size())];
+    const auto& name = names[below(names.size())];
+    return m_takesAnyBytes ? name : displayText(std::string_view(name));
 }
 
 std::filesystem::path RandomHome::randomFolder(const std::filesystem::path& folder)
@@ -75,6 +78,7 @@ void RandomHome::makeEntry(const std::filesystem::path& path)
 
 void RandomHome::fill(const std::filesystem::path& folder, int entries)
 {
+    m_takesAnyBytes = takesNamesOfAnyBytes(folder);
     for (int i = 0; i < entries; ++i) {
         const auto path = randomFolder(folder) / (randomName() + (below(2) == 0 ? "" : std::to_string(below(50))));
         if (!std::filesystem::exists(std::filesystem::symlink_status(path)))

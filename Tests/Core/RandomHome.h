@@ -31,6 +31,7 @@ private:
 
     std::mt19937 m_random;
     std::filesystem::path m_lastFile;
+    bool m_takesAnyBytes = true;
 };
 
 } // namespace Korvane
