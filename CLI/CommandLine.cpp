@@ -23,6 +23,10 @@ constexpr std::string_view commands = "one of: modules, scan, clean, apps, unins
 constexpr std::string_view itemOption = "--item";
 constexpr std::string_view itemAssignment = "--item=";
 
+constexpr std::string_view ownersOfYes
+    = "the commands 'clean', 'uninstall', 'agents remove', 'backups remove' and 'media delete'";
+constexpr std::string_view ownerOfTheOthers = "the command 'clean'";
+
 bool startsWith(std::string_view text, std::string_view beginning)
 {
     return text.substr(0, beginning.size()) == beginning;
@@ -135,8 +139,7 @@ private:
                 "unknown option '" + displayText(std::string_view(option)) + "'; --help lists the options there are");
         if (m_result.command != Command::Clean)
             throw UsageError("option '" + option.substr(0, option.find('=')) + "' belongs to "
-                + (option == "--yes" ? "the commands 'clean', 'uninstall', 'agents remove', 'backups remove' and 'media delete' only"
-                                     : "the command 'clean' only"));
+                + std::string(option == "--yes" ? ownersOfYes : ownerOfTheOthers) + " only");
         if (option == "--delete")
             m_result.removal = CommandLine::Removal::Delete;
         else if (option == "--yes")

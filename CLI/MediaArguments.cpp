@@ -6,8 +6,8 @@
 #include "CLI/UsageError.h"
 #include "Platform/DisplayText.h"
 
-#include <algorithm>
 #include <iterator>
+#include <unordered_set>
 
 namespace Korvane {
 
@@ -19,6 +19,18 @@ constexpr std::string_view folderOption = "--to";
 constexpr std::string_view folderAssignment = "--to=";
 
 std::string quoted(const std::string& argument) { return "'" + displayText(std::string_view(argument)) + "'"; }
+
+/// Where the first argument behind "media" stands that is neither an option nor the folder of one.
+std::size_t positionOfAction(const std::vector<std::string>& arguments)
+{
+    for (std::size_t position = 1; position < arguments.size(); ++position) {
+        if (arguments[position] == folderOption)
+            ++position;
+        else if (!arguments[position].starts_with('-'))
+            return position;
+    }
+    throw UsageError("an action is missing; one of: list, export, delete");
+}
 
 Command commandOf(const std::string& action)
 {
@@ -60,10 +72,11 @@ void readSubjects(const std::vector<std::string>& subjects, CommandLine& line)
     if (subjects.empty() || subjects.front().empty())
         throw UsageError("the identifier of a device is missing; 'korvane-cli devices' shows it");
     line.device = subjects.front();
+    std::unordered_set<std::string_view> known;
     for (auto subject = std::next(subjects.begin()); subject != subjects.end(); ++subject) {
         if (line.command == Command::ListMedia)
             throw UsageError("unexpected argument " + quoted(*subject));
-        if (std::find(line.mediaPaths.begin(), line.mediaPaths.end(), *subject) == line.mediaPaths.end())
+        if (known.insert(*subject).second)
             line.mediaPaths.push_back(*subject);
     }
     if (line.command != Command::ListMedia && line.mediaPaths.empty())
@@ -74,12 +87,13 @@ void readSubjects(const std::vector<std::string>& subjects, CommandLine& line)
 
 void readMediaArguments(const std::vector<std::string>& arguments, CommandLine& line)
 {
-    if (arguments.size() < 2)
-        throw UsageError("an action is missing; one of: list, export, delete");
-    line.command = commandOf(arguments[1]);
+    const auto action = positionOfAction(arguments);
+    line.command = commandOf(arguments[action]);
     std::vector<std::string> subjects;
-    for (std::size_t next = 2; next < arguments.size(); ++next) {
+    for (std::size_t next = 1; next < arguments.size(); ++next) {
         const auto& argument = arguments[next];
+        if (next == action)
+            continue;
         if (argument == folderOption)
             setFolder(line, next + 1 < arguments.size() ? arguments[++next] : "");
         else if (argument.starts_with('-'))

@@ -3,6 +3,7 @@
 
 #include "CLI/Program.h"
 
+#include "CLI/FailureText.h"
 #include "CLI/MaintenanceReports.h"
 #include "CLI/Reports.h"
 #include "CLI/StandardStreams.h"
@@ -68,7 +69,7 @@ ExitStatus Program::run(const std::vector<std::string>& arguments) noexcept
     } catch (const CancellationError&) {
         return ExitStatus::Cancelled;
     } catch (const std::exception& error) {
-        StandardStreams::complain(error.what());
+        StandardStreams::complain(failureText(error));
         return ExitStatus::Failed;
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "CLI/FailureText.h"
 #include "CLI/MaintenanceReports.h"
 #include "CLI/Program.h"
 #include "CLI/StandardStreams.h"
@@ -39,7 +40,7 @@ std::optional<std::string> failureOf(MaintenanceTask task, const Host& host, con
     } catch (const MaintenanceRunner::RunError& error) {
         return error.what();
     } catch (const FileError& error) {
-        return displayText(error.path()) + ": " + error.localizedDescription();
+        return failureText(error);
     }
 }
 

@@ -1,17 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "CLI/FailureText.h"
 #include "CLI/MediaReports.h"
 #include "CLI/Program.h"
 #include "CLI/StandardStreams.h"
 #include "CLI/TerminalProgress.h"
 #include "CLI/UsageError.h"
+#include "Core/Devices/IOSDeviceManager.h"
 #include "Core/Devices/IOSMediaManager.h"
 #include "Platform/DisplayText.h"
 
 #include <algorithm>
 #include <stdexcept>
 #include <unordered_map>
+#include <unordered_set>
+#include <vector>
 
 namespace Korvane {
 
@@ -49,6 +53,22 @@ std::filesystem::path exportFolder(const CommandLine& line, const Host& host)
     return folder;
 }
 
+/// Tells a device whose camera roll is empty from one that cannot be read, of which the tool lists nothing either.
+/// Throws std::runtime_error for the latter; where "idevice_id" is missing, nobody can tell.
+void requireDevice(const std::string& udid, const Host& host, const Cancellation& cancellation)
+{
+    const auto detection = IOSDeviceManager::detect(host, cancellation);
+    if (detection.kind == IOSDeviceManager::DetectionResult::Kind::ToolsMissing)
+        return;
+    const auto device = std::find_if(detection.devices.begin(), detection.devices.end(),
+        [&](const IOSDevice& candidate) { return candidate.udid == udid; });
+    const auto name = "the device '" + displayText(std::string_view(udid)) + "'";
+    if (device == detection.devices.end())
+        throw std::runtime_error(name + " is not connected; 'korvane-cli devices' shows those that are");
+    if (device->name.empty() && device->productVersion.empty())
+        throw std::runtime_error(name + " cannot be read; unlock it and tap Trust on it");
+}
+
 } // namespace
 
 std::vector<IOSMediaFolder> Program::scanMedia(const CommandLine& line) const
@@ -58,7 +78,10 @@ std::vector<IOSMediaFolder> Program::scanMedia(const CommandLine& line) const
         if (done < folders)
             terminal.showStep("Listing folder", done + 1, folders, "");
     };
-    return IOSMediaManager(m_host).listMedia(line.device, show, m_cancellation);
+    auto folders = IOSMediaManager(m_host).listMedia(line.device, show, m_cancellation);
+    if (folders.empty())
+        requireDevice(line.device, m_host, m_cancellation);
+    return folders;
 }
 
 ExitStatus Program::listMedia(const CommandLine& line) const
@@ -84,7 +107,7 @@ MediaExportResult Program::exportEach(const CommandLine& line, const std::filesy
         } catch (const CancellationError&) {
             return result;
         } catch (const std::exception& error) {
-            result.failures.push_back({ file, error.what() });
+            result.failures.push_back({ file, failureText(error) });
         }
     }
     return result;
@@ -121,11 +144,9 @@ ExitStatus Program::deleteMedia(const CommandLine& line) const
             "cancelled; some files may have been deleted, 'korvane-cli media list' shows what is left");
         return ExitStatus::Cancelled;
     }
+    const std::unordered_set<std::string_view> left(remaining.begin(), remaining.end());
     auto deleted = line.mediaPaths;
-    const auto isLeft = [&](const std::string& path) {
-        return std::find(remaining.begin(), remaining.end(), path) != remaining.end();
-    };
-    deleted.erase(std::remove_if(deleted.begin(), deleted.end(), isLeft), deleted.end());
+    std::erase_if(deleted, [&](const std::string& path) { return left.contains(path); });
     print(isJson ? deletionResultAsJson(deleted, remaining) : deletionResultAsText(deleted, remaining));
     return remaining.empty() ? ExitStatus::Done : ExitStatus::Failed;
 }

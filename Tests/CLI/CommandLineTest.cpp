@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace Korvane {
 
 using Command = CommandLine::Command;
@@ -200,6 +202,35 @@ TEST(CommandLineTest, BackupsListsUnlessItIsToldToRemoveOne)
     EXPECT_EQ(complaint({ "backups", "delete" }), "unknown action 'delete'; one of: list, remove");
     EXPECT_NE(complaint({ "backups", "--yes" }).find("belongs to"), std::string::npos);
     EXPECT_NE(complaint({ "backups", "remove", "/a", "--delete" }).find("belongs to"), std::string::npos);
+}
+
+TEST(CommandLineTest, MediaTakesTheFirstArgumentThatIsNoOptionForItsAction)
+{
+    const auto list = parse({ "media", "--json", "list", "UDID" });
+    EXPECT_EQ(list.command, Command::ListMedia);
+    EXPECT_EQ(list.format, Format::Json);
+    EXPECT_EQ(list.device, "UDID");
+    const auto copy = parse({ "media", "--to", "list", "export", "UDID", "/export" });
+    EXPECT_EQ(copy.command, Command::ExportMedia);
+    EXPECT_EQ(copy.exportFolder, "list");
+    EXPECT_EQ(copy.mediaPaths, std::vector<std::string>{ "/export" });
+    const auto deletion = parse({ "media", "--yes", "delete", "delete", "/a", "--json" });
+    EXPECT_EQ(deletion.command, Command::DeleteMedia);
+    EXPECT_EQ(deletion.confirmation, CommandLine::Confirmation::Given);
+    EXPECT_EQ(deletion.device, "delete");
+    EXPECT_EQ(deletion.mediaPaths, std::vector<std::string>{ "/a" });
+}
+
+TEST(CommandLineTest, MediaTakesEachPathOnceInTheOrderOfItsFirstMention)
+{
+    std::vector<std::string> arguments{ "media", "delete", "UDID" }, expected;
+    for (unsigned number = 0; number < 3000; ++number) {
+        const auto path = "/DCIM/" + std::to_string(number * number % 1009);
+        arguments.push_back(path);
+        if (std::find(expected.begin(), expected.end(), path) == expected.end())
+            expected.push_back(path);
+    }
+    EXPECT_EQ(parse(arguments).mediaPaths, expected);
 }
 
 TEST(CommandLineTest, AllAndItemExcludeEachOther)

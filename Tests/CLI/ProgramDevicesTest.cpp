@@ -166,15 +166,24 @@ TEST_F(ProgramDevicesTest, WhatABackupSaysIsShownOnOneLineAndCutWhenLong)
 {
     const IOSBackup hostile("/a\n\033b", "two\nlines\033[2J" + std::string(1'000'000, 'y'), std::string(100'000, 'v'),
         IOSBackup::Date::max(), 1000);
-    for (const auto& report : { backupsAsText({ hostile }), removalPlanAsText(hostile),
-             removalResultAsText(hostile, "message\033"), backupsAsJson({ hostile }).substr(0, 10) }) {
+    for (const auto& report :
+        { backupsAsText({ hostile }), removalPlanAsText(hostile), removalResultAsText(hostile, "message\033") }) {
         EXPECT_LT(report.size(), 500U);
         EXPECT_EQ(report.find('\033'), std::string::npos);
     }
     const auto report = backupsAsText({ hostile });
     EXPECT_EQ(std::count(report.begin(), report.end(), '\n'), 4) << report;
     EXPECT_EQ(report.find("last backup"), std::string::npos) << report;
-    EXPECT_NE(backupsAsJson({ hostile }).find("\"lastBackupDate\":null"), std::string::npos);
+}
+
+TEST_F(ProgramDevicesTest, WhatABackupSaysIsWholeInJsonWithoutAControlCharacter)
+{
+    const IOSBackup hostile("/a\n\033b", "two\nlines\033[2J\xFF" + std::string(40, 'y'), std::string(30, 'v'),
+        IOSBackup::Date::max(), 1000);
+    EXPECT_EQ(backupsAsJson({ hostile }),
+        "[{\"path\":\"/a\\u000a\\u001bb\",\"deviceName\":\"two␊lines␛[2J\uFFFD" + std::string(40, 'y')
+            + "\",\"productVersion\":\"" + std::string(30, 'v')
+            + "\",\"lastBackupDate\":null,\"sizeInBytes\":1000}]\n");
 }
 
 TEST_F(ProgramDevicesTest, RemoveWithoutYesOnlySaysWhatItWouldDo)

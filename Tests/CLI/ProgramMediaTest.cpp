@@ -2,47 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "CLI/MediaReports.h"
-#include "CLI/Program.h"
-#include "Tests/CLI/ProgramFixture.h"
-#include "Tests/Support/AfcStandIn.h"
+#include "Tests/CLI/ProgramMediaFixture.h"
 #include "Tests/Support/Sentinel.h"
-#include "Tests/Support/TestHost.h"
 
 namespace Korvane {
 
 namespace {
 
-/// The camera roll of a device that is a folder.
-class ProgramMediaTest : public ProgramFixture {
-protected:
-    ProgramMediaTest()
-    {
-        tool.add(first, "one");
-        tool.add(second, "two");
-        std::filesystem::create_directory(downloads());
-    }
-
-    ExitStatus runHere(const std::vector<std::string>& arguments, const Cancellation& cancellation = {})
-    {
-        Program program(m_test.host, cancellation);
-        return ProgramFixture::runHere(program, arguments);
-    }
-
-    /// Runs a command that is cancelled once the tool hangs.
-    ExitStatus runCancelled(const std::vector<std::string>& arguments)
-    {
-        return ProgramFixture::runCancelled(m_test.host, arguments, tool.rules.begun);
-    }
-
-    std::filesystem::path downloads() const { return home() / "Downloads"; }
-
-    const std::string first = "/DCIM/100APPLE/IMG_1.JPG";
-    const std::string second = "/DCIM/101APPLE/IMG_2.JPG";
-    AfcStandIn tool{ folder.path() };
-
-private:
-    TestHost m_test = makeTestHost(folder);
-};
+class ProgramMediaTest : public ProgramMediaFixture { };
 
 } // namespace
 
@@ -104,6 +71,11 @@ TEST_F(ProgramMediaTest, FilesAreExportedToANamedFolder)
         "{\"folder\":{\"path\":\"" + (home() / "my photos").string() + "\"},\"exported\":[{\"path\":\"" + first
             + "\"}],\"failures\":[]}\n");
     EXPECT_EQ(readFile(home() / "my photos/IMG_1.JPG"), "one");
+    const auto relative = std::filesystem::relative(home() / "my photos");
+    ASSERT_TRUE(relative.is_relative());
+    EXPECT_EQ(runHere({ "media", "export", "--to", relative, "UDID", second, "--json" }), ExitStatus::Done);
+    EXPECT_TRUE(std::filesystem::path(text(json()["folder"].toObject()["path"])).is_absolute());
+    EXPECT_EQ(readFile(home() / "my photos/IMG_2.JPG"), "two");
     EXPECT_EQ(
         runHere({ "media", "export", "UDID", first, "--to=" + (home() / "missing").string() }), ExitStatus::Failed);
     EXPECT_EQ(errors, "korvane-cli: " + (home() / "missing").string() + " is no folder\n");
@@ -176,6 +148,19 @@ TEST_F(ProgramMediaTest, CancelledDeletionSaysThatSomeMayBeGone)
     EXPECT_EQ(output + errors, "");
 }
 
+TEST_F(ProgramMediaTest, DeletionCancelledWhileItIsVerifiedSaysThatSomeMayBeGone)
+{
+    tool.rules.hangs = "ls";
+    tool.rules.hangsBehind = "rm";
+    tool.apply();
+    EXPECT_EQ(runCancelled({ "media", "delete", "UDID", first, "--yes", "--json" }), ExitStatus::Cancelled);
+    EXPECT_EQ(errors,
+        "korvane-cli: cancelled; some files may have been deleted, 'korvane-cli media list' shows what is left\n");
+    EXPECT_EQ(output, "");
+    EXPECT_FALSE(tool.has(first));
+    EXPECT_EQ(tool.log().back(), "ls /DCIM/100APPLE");
+}
+
 TEST_F(ProgramMediaTest, PathOutsideTheCameraRollIsWrongUseAndNothingIsDone)
 {
     tool.add("/Books/book.pdf");
@@ -195,6 +180,9 @@ TEST_F(ProgramMediaTest, WrongUseIsTold)
 {
     const std::vector<std::pair<std::vector<std::string>, std::string>> wrong{
         { { "media" }, "an action is missing; one of: list, export, delete" },
+        { { "media", "--json" }, "an action is missing; one of: list, export, delete" },
+        { { "media", "--to", "export" }, "an action is missing; one of: list, export, delete" },
+        { { "media", "--yes", "list", "UDID" }, "option '--yes' belongs to the command 'media delete' only" },
         { { "media", "copy" }, "unknown action 'copy'; one of: list, export, delete" },
         { { "media", "list" }, "the identifier of a device is missing; 'korvane-cli devices' shows it" },
         { { "media", "list", "" }, "the identifier of a device is missing; 'korvane-cli devices' shows it" },

@@ -77,7 +77,7 @@ private:
             std::cerr << "ERROR: Could not connect to the device\n";
             std::_Exit(0);
         }
-        if (m_rules.hangs == command)
+        if (m_rules.hangs == command && hasBeenGiven(m_rules.hangsBehind))
             hang();
         if (m_rules.dies == command && command != "get") {
             std::cout << "IMG_00" << std::flush;
@@ -92,6 +92,16 @@ private:
             return true;
         }
         return m_rules.ignores == command;
+    }
+
+    /// Whether this run or one before it has read the command; any has read none.
+    bool hasBeenGiven(const std::string& command) const
+    {
+        std::ifstream log(m_rules.log, std::ios::binary);
+        bool isGiven = command.empty();
+        for (std::string line; !isGiven && std::getline(log, line);)
+            isGiven = line.starts_with(command + " ");
+        return isGiven;
     }
 
     /// Lines that are no names.

@@ -13,9 +13,9 @@ namespace {
 /// Calls the function with each of the texts, in the order in which the file has them.
 template <typename Rules, typename Function> void forEachText(Rules& rules, Function function)
 {
-    for (auto* text :
-        { &rules.style, &rules.reading, &rules.hangs, &rules.dies, &rules.leaves, &rules.breaks, &rules.ignores,
-            &rules.complains, &rules.keeps, &rules.rival, &rules.refusal, &rules.breakage, &rules.denies })
+    for (auto* text : { &rules.style, &rules.reading, &rules.hangs, &rules.hangsBehind, &rules.dies, &rules.leaves,
+             &rules.breaks, &rules.ignores, &rules.complains, &rules.keeps, &rules.rival, &rules.refusal,
+             &rules.breakage, &rules.denies })
         function(*text);
 }
 

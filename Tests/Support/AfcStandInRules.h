@@ -26,6 +26,7 @@ struct AfcStandInRules {
     std::string reading = "words";
 
     std::string hangs; ///< The command at which it hangs; "copy" is the middle of a copy.
+    std::string hangsBehind; ///< The command that has to be in the log before it hangs; empty for none.
     std::string dies; ///< The command in the middle of which a signal ends it.
     std::string leaves; ///< The command in the middle of which it exits with 0, without a word.
     std::string breaks; ///< The command that reports an error; a copy leaves a part of the file.
