@@ -22,10 +22,12 @@
 ///     Settings/          the parts of the settings window
 ///     Symbols/           one family of drawings, and what tints them
 ///     Uninstaller/       the parts of the uninstaller's screen; the icons of applications
+///   Translations/      the texts of the program in other languages
 ///   CLI/               the same engine for a terminal
-///   App/               this file; KorvaneApp with its windows, AppState, TrayIcon, menus
+///   App/               this file; KorvaneApp with its windows, AppState, Languages, TrayIcon, menus
 
 #include "App/KorvaneApp.h"
+#include "App/Languages.h"
 #include "App/TerminationSignals.h"
 #include "Platform/CloudFiles.h"
 #include "Platform/Environment.h"
@@ -34,6 +36,7 @@
 #include "UI/Background.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QQuickWindow>
 
 int main(int argc, char* argv[])
@@ -46,6 +49,7 @@ int main(int argc, char* argv[])
     QGuiApplication::setDesktopFileName(QStringLiteral("org.korvane.Korvane"));
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
     Korvane::Appearance::applyFont();
+    const Korvane::Languages languages(QLocale::system().uiLanguages());
     const Korvane::TerminationSignals terminationSignals;
 
     const Korvane::Host host = Korvane::makeHost(Korvane::Environment::current());

@@ -12,6 +12,7 @@
 #include "Platform/Files/Removal.h"
 #include "Platform/Files/Trash.h"
 #include "Platform/Files/TrashRun.h"
+#include "Platform/Localized.h"
 #include "Platform/UserActionScope.h"
 
 #include <algorithm>
@@ -90,7 +91,7 @@ public:
             emptyHostTrash(trash, protectedPlaces);
         else
             throw FileError(trash, std::make_error_code(std::errc::invalid_argument),
-                "“" + displayText(trash) + "” is not a Trash of this user.");
+                filledIn(localized("Errors", "“%1” is not a Trash of this user."), { displayText(trash) }));
     }
 
 private:

@@ -4,6 +4,7 @@
 #include "Platform/HostMaintenance.h"
 
 #include "Platform/DisplayText.h"
+#include "Platform/Localized.h"
 #include "Platform/Processes/InstalledProgram.h"
 #include "Platform/TrimmedText.h"
 
@@ -22,7 +23,10 @@ constexpr const char* administratorTool = "pkexec";
 constexpr int dismissed = 126;
 constexpr int notAuthorized = 127;
 
-constexpr const char* nothingToFlush = "There is nothing to flush: this machine keeps no DNS cache";
+std::string nothingToFlush()
+{
+    return localized("Errors", "There is nothing to flush: this machine keeps no DNS cache");
+}
 
 ChildProcess call(std::filesystem::path program, std::vector<std::string> arguments)
 {
@@ -42,7 +46,10 @@ ChildProcess privileged(
 
 HostMeans missing(std::string text) { return { {}, std::move(text), {} }; }
 
-HostMeans withoutAdministrator() { return missing("pkexec is missing, which asks for an administrator's password"); }
+HostMeans withoutAdministrator()
+{
+    return missing(localized("Errors", "pkexec is missing, which asks for an administrator's password"));
+}
 
 /// What was changed is written to the disk first, so that its memory can be given back too.
 HostMeans pageCacheMeans(const std::vector<std::filesystem::path>& folders, const std::filesystem::path& administrator)
@@ -50,7 +57,8 @@ HostMeans pageCacheMeans(const std::vector<std::filesystem::path>& folders, cons
     const auto sync = installedProgram(folders, "sync");
     const auto sysctl = installedProgram(folders, "sysctl");
     if (sync.empty() || sysctl.empty())
-        return missing(std::string(sync.empty() ? "sync" : "sysctl") + " is missing, which frees memory");
+        return missing(
+            filledIn(localized("Errors", "%1 is missing, which frees memory"), { sync.empty() ? "sync" : "sysctl" }));
     if (administrator.empty())
         return withoutAdministrator();
     // The page cache alone is 1 (proc_sys_vm(5), drop_caches).
@@ -61,7 +69,7 @@ HostMeans resolverMeans(const std::vector<std::filesystem::path>& folders, const
 {
     const auto resolver = installedProgram(folders, "resolvectl");
     if (resolver.empty())
-        return missing(nothingToFlush);
+        return missing(nothingToFlush());
     if (administrator.empty())
         return withoutAdministrator();
     return { { privileged(administrator, resolver, { "flush-caches" }) }, {}, {} };
@@ -109,7 +117,8 @@ HostMeans searchIndexMeans(const Environment& environment)
     auto means = isKde ? kdeIndexMeans(folders) : gnomeIndexMeans(folders);
     if (!means)
         means = isKde ? gnomeIndexMeans(folders) : kdeIndexMeans(folders);
-    return means ? *means : missing("No search index is installed (localsearch, tracker3 or balooctl)");
+    return means ? *means
+                 : missing(localized("Errors", "No search index is installed (localsearch, tracker3 or balooctl)"));
 }
 
 /// What a program that failed has to say for itself, on one line; empty when nothing.
@@ -135,14 +144,15 @@ bool lacksResolver(const std::string& text)
 std::optional<std::string> refusal(const ChildResult& result, const std::string& text)
 {
     if (result.exitStatus == dismissed)
-        return "The request for an administrator's password was dismissed; nothing was changed";
+        return localized("Errors", "The request for an administrator's password was dismissed; nothing was changed");
     if (result.exitStatus != notAuthorized)
         return std::nullopt;
     if (says(text, "Not authorized"))
-        return "An administrator's rights were not given; nothing was changed";
+        return localized("Errors", "An administrator's rights were not given; nothing was changed");
     if (text.empty() || says(text, "No authentication agent found"))
-        return "No program that asks for an administrator's password is running (a polkit agent); nothing was changed";
-    return "An administrator's password could not be asked for: " + text;
+        return localized("Errors",
+            "No program that asks for an administrator's password is running (a polkit agent); nothing was changed");
+    return filledIn(localized("Errors", "An administrator's password could not be asked for: %1"), { text });
 }
 
 } // namespace
@@ -170,13 +180,14 @@ std::string hostFailure(const ChildProcess& step, const ChildResult& result)
             return *reason;
         // The resolver's tool is there, but not the service that it talks to.
         if (lacksResolver(text))
-            return nothingToFlush;
+            return nothingToFlush();
     }
     if (!text.empty())
-        return "The command failed: " + text;
+        return filledIn(localized("Errors", "The command failed: %1"), { text });
     if (result.signal)
-        return "The command was ended by signal " + std::to_string(*result.signal);
-    return "The command failed with status " + std::to_string(result.exitStatus.value_or(0));
+        return filledIn(localized("Errors", "The command was ended by signal %1"), { std::to_string(*result.signal) });
+    return filledIn(
+        localized("Errors", "The command failed with status %1"), { std::to_string(result.exitStatus.value_or(0)) });
 }
 
 } // namespace Korvane

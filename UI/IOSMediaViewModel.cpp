@@ -3,6 +3,7 @@
 
 #include "UI/IOSMediaViewModel.h"
 
+#include "Platform/Localized.h"
 #include "UI/Background.h"
 #include "UI/Devices/DeviceTexts.h"
 #include "UI/ThrottledProgress.h"
@@ -84,12 +85,15 @@ QString IOSMediaViewModel::progressText() const
 {
     if (m_progress.folders == 0)
         return {};
-    return tr("%1 of %2 folders").arg(m_progress.done).arg(m_progress.folders);
+    return tr("%1 of %n folders", nullptr, pluralCount(m_progress.folders)).arg(m_progress.done);
 }
 
 QString IOSMediaViewModel::title() const { return tr("Photos & Videos on %1").arg(DeviceTexts::name(m_deviceName)); }
 
-QString IOSMediaViewModel::selectionText() const { return tr("%1 files selected").arg(m_rows.selection().count()); }
+QString IOSMediaViewModel::selectionText() const
+{
+    return tr("%n files selected", nullptr, pluralCount(m_rows.selection().count()));
+}
 
 void IOSMediaViewModel::setDeviceName(const std::string& name)
 {
@@ -137,7 +141,7 @@ void IOSMediaViewModel::exportSelected()
         return;
     auto listing = m_rows.listing();
     std::vector<IOSMediaFile> files = m_rows.selection().files(*listing);
-    setWorking(true, tr("Exporting %1 files to Downloads…").arg(files.size()));
+    setWorking(true, tr("Exporting %n files to Downloads…", nullptr, pluralCount(files.size())));
     m_export = Cancellation();
     runInBackground(
         m_work->threads(), this,
@@ -150,14 +154,14 @@ void IOSMediaViewModel::exportSelected()
 void IOSMediaViewModel::finishExport(std::size_t succeeded, std::size_t failed)
 {
     setWorking(false,
-        failed == 0 ? tr("Exported %1 files to Downloads.").arg(succeeded)
-                    : tr("Exported %1 files, %2 failed.").arg(succeeded).arg(failed));
+        failed == 0 ? tr("Exported %n files to Downloads.", nullptr, pluralCount(succeeded))
+                    : tr("Exported %n files, %1 failed.", nullptr, pluralCount(succeeded)).arg(failed));
 }
 
 QString IOSMediaViewModel::deletionQuestion() const
 {
-    return tr("Delete %1 files from %2?")
-        .arg(QString::number(m_rows.selection().count()), DeviceTexts::name(m_deviceName));
+    return tr("Delete %n files from %1?", nullptr, pluralCount(m_rows.selection().count()))
+        .arg(DeviceTexts::name(m_deviceName));
 }
 
 void IOSMediaViewModel::deleteSelected()
@@ -171,7 +175,7 @@ void IOSMediaViewModel::deleteSelected()
 void IOSMediaViewModel::awaitDeletion(quint64 deletion, std::size_t asked)
 {
     m_deletion = deletion;
-    setWorking(true, tr("Deleting %1 files…").arg(asked));
+    setWorking(true, tr("Deleting %n files…", nullptr, pluralCount(asked)));
 }
 
 void IOSMediaViewModel::finishDeletion(const MediaDeletion& deletion)
@@ -183,8 +187,9 @@ void IOSMediaViewModel::finishDeletion(const MediaDeletion& deletion)
     } else if (deletion.id == m_deletion) {
         const std::size_t deleted = deletion.asked - deletion.remaining;
         setWorking(false,
-            deletion.remaining == 0 ? tr("Deleted %1 files.").arg(deleted)
-                                    : tr("Deleted %1 files, %2 failed.").arg(deleted).arg(deletion.remaining));
+            deletion.remaining == 0
+                ? tr("Deleted %n files.", nullptr, pluralCount(deleted))
+                : tr("Deleted %n files, %1 failed.", nullptr, pluralCount(deleted)).arg(deletion.remaining));
     }
     // Whatever has one of these names from now on is another file, which nobody has ticked.
     m_rows.untick(deletion.gone);

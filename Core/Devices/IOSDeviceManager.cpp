@@ -5,6 +5,7 @@
 
 #include "Platform/DisplayText.h"
 #include "Platform/FileError.h"
+#include "Platform/Localized.h"
 #include "Platform/Processes/InstalledProgram.h"
 #include "Platform/TrimmedText.h"
 
@@ -79,7 +80,7 @@ IOSDevice IOSDeviceManager::info(const std::string& udid, const Host& host, cons
     };
     IOSDevice device;
     device.udid = udid;
-    device.name = ask("DeviceName").value_or("iOS Device");
+    device.name = ask("DeviceName").value_or(localized("Devices", "iOS Device"));
     device.productVersion = ask("ProductVersion").value_or("?");
     device.totalBytes = number(ask("TotalDiskCapacity", storageDomain).value_or(""));
     device.freeBytes = number(ask("TotalDataAvailable", storageDomain).value_or(""));

@@ -10,6 +10,7 @@
 #include "Core/Devices/MediaError.h"
 #include "Core/Devices/MediaExport.h"
 #include "Platform/DisplayText.h"
+#include "Platform/Localized.h"
 
 #include <algorithm>
 #include <optional>
@@ -38,7 +39,8 @@ std::vector<std::string> namesIn(
         return {};
     const auto answer = runAFC(commands, udid, host, cancellation);
     if (answer.ending() == AfcAnswer::Ending::CutOff)
-        throw MediaError::afcFailed("The listing of " + displayText(std::string_view(folder)) + " is too long");
+        throw MediaError::afcFailed(
+            filledIn(localized("Errors", "The listing of %1 is too long"), { displayText(std::string_view(folder)) }));
     return credibleNames(parseNames(answer.text()), { commands.front(), "quit" });
 }
 

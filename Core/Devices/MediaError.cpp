@@ -3,6 +3,8 @@
 
 #include "Core/Devices/MediaError.h"
 
+#include "Platform/Localized.h"
+
 namespace Korvane {
 
 MediaError::MediaError(Kind kind, const std::string& description)
@@ -15,7 +17,7 @@ MediaError MediaError::afcFailed(const std::string& message) { return { Kind::Af
 
 MediaError MediaError::toolMissing()
 {
-    return { Kind::ToolMissing, "afcclient not found \u2014 install libimobiledevice" };
+    return { Kind::ToolMissing, localized("Errors", "afcclient not found — install libimobiledevice") };
 }
 
 } // namespace Korvane

@@ -11,6 +11,7 @@
 #include "Core/Devices/MediaError.h"
 #include "Core/Devices/PlainFolder.h"
 #include "Platform/DisplayText.h"
+#include "Platform/Localized.h"
 
 #include <algorithm>
 #include <iterator>
@@ -19,9 +20,10 @@ namespace Korvane {
 
 namespace {
 
-MediaError failureOf(const IOSMediaFile& file, const std::string& addition = {})
+MediaError failureOf(const IOSMediaFile& file)
 {
-    return MediaError::afcFailed("Export failed for " + displayText(std::string_view(file.name)) + addition);
+    return MediaError::afcFailed(
+        filledIn(localized("Errors", "Export failed for %1"), { displayText(std::string_view(file.name)) }));
 }
 
 /// Whether the file can be asked for without naming another, and into this folder under its own name.
@@ -57,7 +59,9 @@ bool hasOpenedNothing(const AfcAnswer& answer, const IOSMediaFile& file, const s
 void takeAway(const ExportDestination& destination, const IOSMediaFile& file, const Host& host)
 {
     if (const auto refusal = destination.trashWhatLiesThere(*host.files))
-        throw failureOf(file, "; what lies there now could not be moved to the Trash: " + *refusal);
+        throw MediaError::afcFailed(filledIn(
+            localized("Errors", "Export failed for %1; what lies there now could not be moved to the Trash: %2"),
+            { displayText(std::string_view(file.name)), *refusal }));
 }
 
 /// Runs the tool; what a run leaves that does not come to its end does not stay.

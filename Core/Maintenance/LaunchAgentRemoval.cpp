@@ -6,6 +6,7 @@
 #include "Platform/BackgroundItems.h"
 #include "Platform/DisplayText.h"
 #include "Platform/FileError.h"
+#include "Platform/Localized.h"
 #include "Platform/TrimmedText.h"
 
 #include <algorithm>
@@ -65,10 +66,10 @@ std::string runManager(
         result = host.processes->run(manager, cancellation);
         return "";
     } catch (const CancellationError&) {
-        return "stopping it was cancelled";
+        return localized("Errors", "stopping it was cancelled");
     } catch (const FileError& error) {
         if (error.code() == std::errc::timed_out)
-            return displayText(manager.program.filename()) + " took too long";
+            return filledIn(localized("Errors", "%1 took too long"), { displayText(manager.program.filename()) });
         result.errorOutput.text = error.localizedDescription();
         return "";
     }
@@ -92,14 +93,14 @@ std::string stopUnit(const LaunchAgent& agent, const Host& host, const Cancellat
 {
     const auto manager = unitStop(agent.url, host.environment);
     if (!manager)
-        return "systemctl is missing";
+        return localized("Errors", "systemctl is missing");
     ChildResult result;
     if (auto unended = runManager(*manager, host, cancellation, result); !unended.empty())
         return unended;
     if (result.hasSucceeded())
         return "";
     const auto text = trimmedText(result.errorOutput.text);
-    return text.empty() ? "systemctl failed" : displayText(text);
+    return text.empty() ? localized("Errors", "systemctl failed") : displayText(text);
 }
 
 /// What kept an item from being stopped, in words; empty when nothing did, or nothing of it is to be stopped.
@@ -142,9 +143,10 @@ std::optional<std::string> removeLaunchAgent(
     const auto unstopped = stop(agent, host, cancellation);
     const auto kept = trash(agent, host);
     if (!kept.empty())
-        return "not moved to the Trash: " + kept;
+        return filledIn(localized("Errors", "not moved to the Trash: %1"), { kept });
     if (!unstopped.empty())
-        return "moved to the Trash, but it may still run until the next login: " + unstopped;
+        return filledIn(
+            localized("Errors", "moved to the Trash, but it may still run until the next login: %1"), { unstopped });
     return std::nullopt;
 }
 

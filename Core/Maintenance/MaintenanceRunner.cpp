@@ -6,6 +6,7 @@
 #include "Platform/DisplayText.h"
 #include "Platform/FileError.h"
 #include "Platform/HostMaintenance.h"
+#include "Platform/Localized.h"
 #include "Platform/TrimmedText.h"
 
 #include <cstdlib>
@@ -58,7 +59,8 @@ void runByInterpreter(MaintenanceTask task, const Host& host, const Cancellation
     if (result.hasSucceeded())
         return;
     const auto& text = result.errorOutput.text;
-    throw MaintenanceRunner::RunError(isValidUtf8(text) ? std::string(trimmedText(text)) : "Unknown error");
+    throw MaintenanceRunner::RunError(
+        isValidUtf8(text) ? std::string(trimmedText(text)) : localized("Errors", "Unknown error"));
 }
 
 /// Runs what a task does not depend on.

@@ -11,8 +11,10 @@
 #include "Platform/DisplayText.h"
 #include "Platform/FileDigest.h"
 #include "Platform/FreedElsewhere.h"
+#include "Platform/Localized.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -83,6 +85,15 @@ std::vector<std::vector<Candidate>> groupByDigest(SizeGroup group, FileDigest& d
     return sets;
 }
 
+/// What stands over a set: the name of the file that is kept, how many there are, and how large each is.
+std::string labelOf(const std::vector<Candidate>& set, const std::string& keptName)
+{
+    const int count = pluralCount(std::ssize(set));
+    const auto text = localized(
+        "Duplicates", "%1 — %n copies, %2 each", "%1 is the name of a file, %2 the size of each copy", count);
+    return filledIn(text, { keptName, formattedBytes(set.front().size) });
+}
+
 /// Turns sets of equal files into items, and counts those that can be removed.
 class Emission {
 public:
@@ -97,9 +108,9 @@ public:
         sortOldestFirst(set, m_cancellation);
         const auto& kept = set.front();
         const auto keptName = displayName(kept.url);
-        const auto label
-            = keptName + " \u2014 " + std::to_string(set.size()) + " copies, " + formattedBytes(kept.size) + " each";
-        m_items->emplace_back(kept.url, keptName + " (original)", label, kept.size, false);
+        const auto label = labelOf(set, keptName);
+        m_items->emplace_back(
+            kept.url, filledIn(localized("Duplicates", "%1 (original)"), { keptName }), label, kept.size, false);
         for (auto copy = set.begin() + 1; copy != set.end(); ++copy) {
             m_cancellation.throwIfCancelled();
             m_items->emplace_back(copy->url, std::nullopt, label, copy->size, true);

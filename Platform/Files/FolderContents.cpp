@@ -8,6 +8,7 @@
 #include "Platform/Files/OpenFolder.h"
 #include "Platform/Files/Removal.h"
 #include "Platform/Files/Trash.h"
+#include "Platform/Localized.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -34,7 +35,7 @@ void FolderContents::open(int parent, const char* name)
     EntryStatus status;
     if (readStatus(parent, name, Links::NotFollowed, status) == 0 && status.isLink)
         throw FileError(m_path, std::make_error_code(std::errc::too_many_symbolic_link_levels),
-            "“" + displayText(m_path) + "” is a link; what it leads to is left alone.");
+            filledIn(localized("Errors", "“%1” is a link; what it leads to is left alone."), { displayText(m_path) }));
     FileDescriptor folder;
     if (openFolder(parent, name, Links::NotFollowed, folder) == 0
         && readStatus(folder.get(), "", Links::NotFollowed, m_status) == 0)

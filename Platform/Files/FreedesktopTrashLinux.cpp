@@ -8,6 +8,7 @@
 #include "Platform/Files/OriginalPath.h"
 #include "Platform/Files/Retry.h"
 #include "Platform/Files/SystemErrorText.h"
+#include "Platform/Localized.h"
 
 #include <fcntl.h>
 #include <string_view>
@@ -65,7 +66,8 @@ void refuseToHoldItself(const ItemPlace& item, const FileDescriptor& trash)
             return;
         if (status.identity == item.status.identity)
             throw FileError(item.path, std::make_error_code(std::errc::invalid_argument),
-                "“" + displayText(item.path) + "” holds the Trash, and cannot be moved into it.");
+                filledIn(localized("Errors", "“%1” holds the Trash, and cannot be moved into it."),
+                    { displayText(item.path) }));
         last = status.identity;
         FileDescriptor above;
         error = openForTraversal(folder.get(), "..", Links::NotFollowed, above);
@@ -210,7 +212,8 @@ FreedesktopTrash openVolumeTrash(const ItemPlace& item)
         const int error = openOrMake(top.get(), name.c_str(), trash.folder);
         if (error == ENOTDIR || error == ELOOP || (error == 0 && !isOwn(trash.folder)))
             throw FileError(item.path, std::make_error_code(std::errc::operation_not_permitted),
-                "“" + displayText(trash.path) + "”, the Trash of this volume, is not a folder of this user.");
+                filledIn(localized("Errors", "“%1”, the Trash of this volume, is not a folder of this user."),
+                    { displayText(trash.path) }));
         if (error != 0)
             failAt(item, error, trash.path);
     }

@@ -6,6 +6,7 @@
 #include "Platform/DisplayText.h"
 #include "Platform/FileError.h"
 #include "Platform/Files/OpenFolder.h"
+#include "Platform/Localized.h"
 
 #include <fcntl.h>
 #include <string_view>
@@ -54,18 +55,19 @@ std::string itemPath(const std::filesystem::path& path)
 {
     std::string_view text = path.native();
     if (text.empty())
-        refuse(path, "Nothing was named to be removed.");
+        refuse(path, localized("Errors", "Nothing was named to be removed."));
     if (text.find('\0') != std::string_view::npos)
-        refuse(path, "“" + displayText(path) + "” cannot be the name of a file.");
+        refuse(path, filledIn(localized("Errors", "“%1” cannot be the name of a file."), { displayText(path) }));
     if (text.front() != '/')
-        refuse(path, "“" + displayText(path) + "” is not a full path.");
+        refuse(path, filledIn(localized("Errors", "“%1” is not a full path."), { displayText(path) }));
     while (!text.empty() && text.back() == '/')
         text.remove_suffix(1);
     if (text.empty())
-        refuse(path, "The root of the file system is never removed.");
+        refuse(path, localized("Errors", "The root of the file system is never removed."));
     const std::string_view name = text.substr(text.rfind('/') + 1);
     if (name == "." || name == "..")
-        refuse(path, "“" + displayText(path) + "” does not name an item but a way to one.");
+        refuse(
+            path, filledIn(localized("Errors", "“%1” does not name an item but a way to one."), { displayText(path) }));
     return std::string(text);
 }
 

@@ -6,6 +6,7 @@
 #include "Platform/DisplayText.h"
 #include "Platform/FileError.h"
 #include "Platform/Files/OpenFolder.h"
+#include "Platform/Localized.h"
 
 #include <algorithm>
 #include <fcntl.h>
@@ -15,7 +16,7 @@ namespace {
 
 [[noreturn]] void refuse(const ItemPlace& item, std::errc code, const std::string& reason)
 {
-    throw FileError(item.path, std::make_error_code(code), "“" + displayText(item.path) + "” " + reason);
+    throw FileError(item.path, std::make_error_code(code), filledIn(reason, { displayText(item.path) }));
 }
 
 } // namespace
@@ -82,11 +83,14 @@ bool ProtectedPlaces::isIdentical(const ItemPlace& item)
 void ProtectedPlaces::check(const ItemPlace& item)
 {
     if (isNamed(item) || isIdentical(item))
-        refuse(item, std::errc::operation_not_permitted, "is the home folder, or holds it, and is never removed.");
+        refuse(item, std::errc::operation_not_permitted,
+            localized("Errors", "“%1” is the home folder, or holds it, and is never removed."));
     if (item.parentStatus.leadsOffMountTo(item.status))
-        refuse(item, std::errc::device_or_resource_busy, "is where a volume is mounted, and is never removed.");
+        refuse(item, std::errc::device_or_resource_busy,
+            localized("Errors", "“%1” is where a volume is mounted, and is never removed."));
     if (item.status.isSharedSticky())
-        refuse(item, std::errc::operation_not_permitted, "is a folder shared by all users, and is never removed.");
+        refuse(item, std::errc::operation_not_permitted,
+            localized("Errors", "“%1” is a folder shared by all users, and is never removed."));
 }
 
 } // namespace Korvane

@@ -5,6 +5,7 @@
 #include "Platform/Files/Retry.h"
 #include "Platform/Files/SystemErrorText.h"
 #include "Platform/Files/TreeRemover.h"
+#include "Platform/Localized.h"
 
 #include <algorithm>
 #include <sys/stat.h>
@@ -83,7 +84,7 @@ void TreeRemover::fail(int error, const DoomedFolder& folder, const std::string&
 
 void TreeRemover::failAtMount(const DoomedFolder& folder, const std::string& name)
 {
-    fail(EBUSY, pathOf(folder, name), "A volume is mounted inside");
+    fail(EBUSY, pathOf(folder, name), localized("Errors", "A volume is mounted inside"));
 }
 
 void TreeRemover::fail(int error, const std::filesystem::path& path, const std::string& reason)

@@ -4,6 +4,7 @@
 #include "UI/Devices/DeviceTexts.h"
 
 #include "Core/Scanning/FormattedBytes.h"
+#include "Platform/Localized.h"
 #include "UI/ShortenedText.h"
 
 #include <QCoreApplication>
@@ -77,7 +78,10 @@ QString detail(const IOSBackup& backup)
     return parts.join(QLatin1Char(' '));
 }
 
-QString files(std::size_t count) { return QCoreApplication::translate("Devices", "%1 files").arg(count); }
+QString files(std::size_t count)
+{
+    return QCoreApplication::translate("Devices", "%n files", nullptr, pluralCount(count));
+}
 
 QString symbol(const IOSMediaFile& file)
 {

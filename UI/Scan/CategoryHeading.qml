@@ -18,7 +18,7 @@ Item {
 
     readonly property ResultsList list: heading.parent === null ? null : heading.parent.parent as ResultsList
     readonly property ScanResultsModel rows: heading.list === null ? null : heading.list.viewModel.rows
-    property var category: ({ sizeText: "", itemCount: 0, tickedCount: 0 })
+    property var category: ({ title: "", sizeText: "", itemCount: 0, tickedCount: 0 })
 
     readonly property int ticks: heading.category.tickedCount === 0 ? Qt.Unchecked
         : heading.category.tickedCount < heading.category.itemCount ? Qt.PartiallyChecked : Qt.Checked
@@ -51,7 +51,8 @@ Item {
         radius: Theme.spacingTiny
     }
     CheckBox {
-        x: 20
+        anchors.left: parent.left
+        anchors.leftMargin: 20
         anchors.verticalCenter: parent.verticalCenter
         focusPolicy: Qt.NoFocus
         tristate: true
@@ -61,7 +62,7 @@ Item {
             heading.refresh();
             return heading.ticks;
         }
-        Accessible.name: heading.section
+        Accessible.name: heading.category.title
     }
     Label {
         anchors.left: parent.left
@@ -71,7 +72,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         style: Label.Headline
         elide: Text.ElideMiddle
-        text: ShownText.isolated(heading.section)
+        text: ShownText.isolated(heading.category.title)
         Accessible.role: Accessible.Heading
     }
     Label {

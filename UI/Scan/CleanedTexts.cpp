@@ -4,21 +4,20 @@
 #include "UI/Scan/CleanedTexts.h"
 
 #include "Core/Scanning/FormattedBytes.h"
+#include "Platform/Localized.h"
 
-#include <QLocale>
+#include <iterator>
 
 namespace Korvane {
 
 CleanedTexts CleanedTexts::of(const Cleaner::Result& result)
 {
-    const QLocale locale;
-    const auto failureCount = static_cast<qlonglong>(result.failures.size());
+    const int failureCount = pluralCount(std::ssize(result.failures));
     CleanedTexts texts;
     texts.heading = tr("%1 cleaned").arg(QString::fromStdString(formattedBytes(result.cleanedBytes)));
-    texts.countLine
-        = tr("%1 items moved to Trash or removed").arg(locale.toString(static_cast<qlonglong>(result.cleanedCount)));
+    texts.countLine = tr("%Ln items moved to Trash or removed", nullptr, pluralCount(result.cleanedCount));
     if (failureCount > 0)
-        texts.failuresLine = tr("%1 items could not be removed").arg(locale.toString(failureCount));
+        texts.failuresLine = tr("%Ln items could not be removed", nullptr, failureCount);
     return texts;
 }
 

@@ -13,11 +13,13 @@ namespace Korvane {
 class ScanCategory {
     Q_GADGET
     QML_VALUE_TYPE(scanCategory)
+    Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(QString sizeText MEMBER sizeText)
     Q_PROPERTY(int itemCount MEMBER itemCount)
     Q_PROPERTY(int tickedCount MEMBER tickedCount)
 
 public:
+    QString title;    ///< Its name in the language of the program.
     QString sizeText; ///< The total size of the category's items.
     int itemCount = 0;
     int tickedCount = 0;

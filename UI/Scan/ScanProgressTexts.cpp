@@ -4,15 +4,14 @@
 #include "UI/Scan/ScanProgressTexts.h"
 
 #include "Core/Scanning/FormattedBytes.h"
-
-#include <QLocale>
+#include "Platform/Localized.h"
 
 namespace Korvane {
 
 ScanProgressTexts ScanProgressTexts::of(const ScanProgress& progress)
 {
     ScanProgressTexts texts;
-    texts.foundText = tr("%1 found").arg(QLocale().toString(static_cast<qlonglong>(progress.itemsFound)));
+    texts.foundText = tr("%Ln found", nullptr, pluralCount(progress.itemsFound));
     texts.foundBytesText = QString::fromStdString(formattedBytes(progress.bytesFound));
     texts.currentPath = QString::fromStdString(progress.currentPath);
     return texts;

@@ -6,6 +6,7 @@
 #include "Core/Scanning/FormattedBytes.h"
 #include "Platform/DisplayText.h"
 #include "UI/Background.h"
+#include "UI/Scan/CategoryTitle.h"
 
 #include <optional>
 #include <utility>
@@ -108,6 +109,7 @@ ScanCategory ScanResultsModel::category(const QString& title) const
     ScanCategory summary;
     if (const auto found = m_findings->categoryNamed(title.toStdString())) {
         const ScanFindings::Category& category = m_findings->categories()[*found];
+        summary.title = categoryTitle(category.title);
         summary.sizeText = QString::fromStdString(formattedBytes(category.totalBytes));
         summary.itemCount = static_cast<int>(category.itemCount);
         summary.tickedCount = static_cast<int>(m_selection.sizeInCategory(*found));
