@@ -22,6 +22,8 @@ Window {
     minimumHeight: 620
     visible: true
     color: Theme.window
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
 
     function showSettings(): void {
         if (window.settings === null)

@@ -23,6 +23,8 @@ Window {
     maximumHeight: height
     flags: Qt.Dialog
     color: Theme.window
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
 
     Shortcut {
         sequences: ["Ctrl+W", "Escape"]

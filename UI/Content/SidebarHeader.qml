@@ -17,7 +17,8 @@ Item {
     IconTile {
         id: mark
 
-        x: 8
+        anchors.left: parent.left
+        anchors.leftMargin: 8
         anchors.verticalCenter: parent.verticalCenter
         size: 28
         symbol: "sparkles"
@@ -40,7 +41,8 @@ Item {
         ink: Theme.secondaryLabel
         symbol: "ellipsis"
         Accessible.name: qsTr("Application menu")
-        onClicked: menu.popup(menuButton, 0, menuButton.height + 4)
+        onClicked: menu.popup(menuButton, menuButton.mirrored ? menuButton.width - menu.width : 0,
+            menuButton.height + 4)
 
         Menu {
             id: menu

@@ -19,7 +19,9 @@ Column {
     spacing: 2
 
     SectionHeader {
+        width: section.width
         leftPadding: 10
+        rightPadding: 10
         bottomPadding: Theme.spacingTiny
         text: section.title
     }

@@ -18,6 +18,7 @@ Item {
     BusySpinner {
         id: spinner
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         width: 20
         height: 20

@@ -43,6 +43,7 @@ T.CheckBox {
         font: control.font
         color: Theme.label
         elide: Text.ElideRight
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
     }

@@ -4,6 +4,7 @@
 #include "UI/Controls/GradientFill.h"
 
 #include <QColor>
+#include <QGuiApplication>
 #include <QLinearGradient>
 #include <QPainter>
 
@@ -38,7 +39,9 @@ void GradientFill::paint(QPainter* painter)
     if (m_colors.isEmpty())
         return;
     const QRectF area = boundingRect();
-    QLinearGradient gradient(area.topLeft(), area.bottomRight());
+    const bool mirrored = QGuiApplication::layoutDirection() == Qt::RightToLeft;
+    QLinearGradient gradient(
+        mirrored ? area.topRight() : area.topLeft(), mirrored ? area.bottomLeft() : area.bottomRight());
     const qreal last = static_cast<qreal>(qMax<qsizetype>(1, m_colors.size() - 1));
     for (qsizetype index = 0; index < m_colors.size(); ++index)
         gradient.setColorAt(static_cast<qreal>(index) / last, m_colors.at(index).value<QColor>());

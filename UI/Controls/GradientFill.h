@@ -8,7 +8,7 @@
 
 namespace Korvane {
 
-/// A rounded rectangle filled with colours that run from its top left to its bottom right corner.
+/// A rounded rectangle filled with colours that run from its top leading to its bottom trailing corner.
 class GradientFill : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT

@@ -42,6 +42,7 @@ T.MenuItem {
             Layout.fillWidth: true
             text: item.text
             textFormat: Text.PlainText
+            horizontalAlignment: Text.AlignLeft
             font: item.font
             color: item.ink
             Accessible.ignored: true

@@ -59,6 +59,7 @@ T.Switch {
         font: control.font
         color: Theme.label
         wrapMode: Text.WordWrap
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
     }

@@ -14,10 +14,14 @@ T.TextField {
     /// The name of the symbol inside the field; empty for none.
     property string symbol: ""
 
+    readonly property bool mirrored: field.LayoutMirroring.enabled
+    readonly property real startPadding: field.symbol === "" ? 10 : 32
+
     implicitWidth: 220
     implicitHeight: Theme.controlHeight
-    leftPadding: field.symbol === "" ? 10 : 32
-    rightPadding: 10
+    leftPadding: field.mirrored ? 10 : field.startPadding
+    rightPadding: field.mirrored ? field.startPadding : 10
+    horizontalAlignment: TextInput.AlignLeft
     verticalAlignment: TextInput.AlignVCenter
     font.family: Theme.fontFamily
     font.pixelSize: Theme.body
@@ -39,10 +43,12 @@ T.TextField {
         font: field.font
         color: field.placeholderTextColor
         elide: Text.ElideRight
+        horizontalAlignment: Text.AlignLeft
         Accessible.ignored: true
     }
     Symbol {
-        x: 10
+        anchors.left: parent.left
+        anchors.leftMargin: 10
         anchors.verticalCenter: parent.verticalCenter
         visible: field.symbol !== ""
         name: field.symbol

@@ -24,6 +24,7 @@ Item {
     IconTile {
         id: tile
 
+        anchors.left: parent.left
         size: 64
         radius: 18
         symbol: "sparkles"

@@ -39,6 +39,7 @@ T.AbstractButton {
 
     contentItem: Column {
         IconTile {
+            anchors.left: parent.left
             size: 60
             symbol: card.module.symbol
             accent: Theme.accent(card.module.accent)

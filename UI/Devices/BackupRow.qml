@@ -25,8 +25,8 @@ T.Control {
     signal pointed
     signal removalRequested
 
-    leftPadding: Theme.spacingHuge
-    rightPadding: Theme.spacingLarge
+    leftPadding: row.mirrored ? Theme.spacingLarge : Theme.spacingHuge
+    rightPadding: row.mirrored ? Theme.spacingHuge : Theme.spacingLarge
     hoverEnabled: true
     focusPolicy: Qt.NoFocus
     Accessible.role: Accessible.ListItem

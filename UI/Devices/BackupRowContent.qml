@@ -19,6 +19,7 @@ Item {
     Symbol {
         id: sign
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         name: "externaldrive.badge.timemachine"
         size: 26

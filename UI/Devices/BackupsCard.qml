@@ -56,7 +56,8 @@ SteadyScope {
                 text: qsTr("Measuring backups…")
             }
             Label {
-                x: Theme.spacingHuge
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.spacingHuge
                 anchors.verticalCenter: parent.verticalCenter
                 visible: part.empty
                 color: Theme.secondaryLabel

@@ -29,7 +29,8 @@ Item {
     Symbol {
         id: sign
 
-        x: Theme.spacingHuge
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.spacingHuge
         anchors.verticalCenter: parent.verticalCenter
         name: "iphone.gen3"
         size: 40
@@ -50,6 +51,7 @@ Item {
             Label {
                 id: nameText
 
+                anchors.left: parent.left
                 width: Math.min(implicitWidth, parent.width - versionText.width - Theme.spacing)
                 style: Label.Headline
                 elide: Text.ElideMiddle

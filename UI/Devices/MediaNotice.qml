@@ -17,6 +17,7 @@ Item {
     Symbol {
         id: sign
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         visible: notice.failed
         name: "exclamationmark.triangle.fill"

@@ -24,6 +24,7 @@ T.ItemDelegate {
     property bool showsFocus: false
 
     readonly property bool isFolder: row.file < 0
+    readonly property int startPadding: row.isFolder ? 76 : 112
 
     /// The pointer has come down on the box of a folder.
     signal boxPressed
@@ -45,8 +46,8 @@ T.ItemDelegate {
             row.leaveRequested();
     }
 
-    leftPadding: row.isFolder ? 76 : 112
-    rightPadding: Theme.spacingHuge
+    leftPadding: row.mirrored ? Theme.spacingHuge : row.startPadding
+    rightPadding: row.mirrored ? row.startPadding : Theme.spacingHuge
     hoverEnabled: true
     text: row.name
     Accessible.role: row.isFolder ? Accessible.Button : Accessible.CheckBox
@@ -61,14 +62,15 @@ T.ItemDelegate {
     onClicked: row.act()
     Keys.onReturnPressed: row.act()
     Keys.onEnterPressed: row.act()
-    Keys.onRightPressed: row.step(true)
-    Keys.onLeftPressed: row.step(false)
+    Keys.onRightPressed: row.step(!row.mirrored)
+    Keys.onLeftPressed: row.step(row.mirrored)
     Keys.onSpacePressed: event => {
         if (!event.isAutoRepeat)
             row.tickRequested();
     }
 
     indicator: MediaRowMark {
+        x: row.mirrored ? row.width - width : 0
         name: row.name
         isFolder: row.isFolder
         open: row.open

@@ -18,6 +18,7 @@ Item {
     Symbol {
         id: sign
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         name: content.symbol
         size: 18

@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Korvane.UI
 
-/// The left end of a `MediaRow`: the arrow of a folder, and the box, which in the row of a folder ticks all its files.
+/// The leading end of a `MediaRow`: the arrow of a folder, and the box, which in the row of a folder ticks all its files.
 Item {
     id: mark
 
@@ -24,7 +24,8 @@ Item {
     width: 104
 
     Symbol {
-        x: Theme.spacingLarge
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.spacingLarge
         anchors.verticalCenter: parent.verticalCenter
         visible: mark.isFolder
         name: mark.open ? "chevron.down" : "chevron.right"
@@ -32,7 +33,8 @@ Item {
         color: Theme.secondaryLabel
     }
     CheckBox {
-        x: 44
+        anchors.left: parent.left
+        anchors.leftMargin: 44
         anchors.verticalCenter: parent.verticalCenter
         visible: mark.isFolder
         // The row has the keyboard, and does the same.
@@ -47,7 +49,8 @@ Item {
         Accessible.name: mark.name
     }
     CheckMark {
-        x: 80
+        anchors.left: parent.left
+        anchors.leftMargin: 80
         anchors.verticalCenter: parent.verticalCenter
         visible: !mark.isFolder
         checkState: mark.ticks

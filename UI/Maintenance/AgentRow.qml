@@ -32,8 +32,8 @@ T.Control {
             row.removalRequested();
     }
 
-    leftPadding: row.margin + Theme.spacingLarge
-    rightPadding: row.margin + Theme.spacing
+    leftPadding: row.margin + (row.mirrored ? Theme.spacing : Theme.spacingLarge)
+    rightPadding: row.margin + (row.mirrored ? Theme.spacingLarge : Theme.spacing)
     hoverEnabled: true
     Accessible.role: Accessible.ListItem
     Accessible.name: row.label

@@ -20,6 +20,7 @@ Item {
     implicitHeight: Math.max(Theme.controlHeight, text.implicitHeight)
 
     BusySpinner {
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         width: 18
         height: 18
@@ -29,6 +30,7 @@ Item {
     Symbol {
         id: sign
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         visible: text.visible
         name: area.done ? "checkmark.circle.fill" : area.failed ? "exclamationmark.triangle.fill" : "info.circle"

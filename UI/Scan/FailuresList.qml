@@ -49,7 +49,8 @@ ListView {
             border.color: Theme.focusRing
         }
         Symbol {
-            x: 20
+            anchors.left: parent.left
+            anchors.leftMargin: 20
             anchors.verticalCenter: parent.verticalCenter
             name: "exclamationmark.triangle.fill"
             size: 18

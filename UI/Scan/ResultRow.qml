@@ -43,8 +43,8 @@ T.CheckDelegate {
     }
 
     implicitHeight: 40
-    leftPadding: 52
-    rightPadding: Theme.spacingHuge
+    leftPadding: row.mirrored ? Theme.spacingHuge : 52
+    rightPadding: row.mirrored ? 52 : Theme.spacingHuge
     hoverEnabled: true
     checked: row.ticked
     text: row.name
@@ -87,7 +87,7 @@ T.CheckDelegate {
     }
 
     indicator: CheckMark {
-        x: 20
+        x: row.mirrored ? row.width - width - 20 : 20
         y: (row.height - height) / 2
         checkState: row.checkState
         down: row.down

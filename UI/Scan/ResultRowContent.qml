@@ -23,6 +23,7 @@ Item {
     Label {
         id: nameText
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(implicitWidth, content.nameColumn - (content.shielded ? shield.width + Theme.spacing : 0))
         elide: Text.ElideMiddle
@@ -45,9 +46,11 @@ Item {
         }
     }
     Label {
-        x: content.nameColumn + Theme.spacingLarge
+        anchors.left: parent.left
+        anchors.leftMargin: content.nameColumn + Theme.spacingLarge
+        anchors.right: sizeText.left
+        anchors.rightMargin: Theme.spacingLarge
         anchors.verticalCenter: parent.verticalCenter
-        width: sizeText.x - x - Theme.spacingLarge
         style: Label.Callout
         color: Theme.tertiaryLabel
         elide: Text.ElideMiddle

@@ -19,7 +19,8 @@ Item {
     Symbol {
         id: mark
 
-        x: 2
+        anchors.left: parent.left
+        anchors.leftMargin: 2
         anchors.verticalCenter: parent.verticalCenter
         size: 20
         name: row.viewModel.granted ? "checkmark.circle.fill" : "exclamationmark.triangle.fill"

@@ -49,8 +49,10 @@ Item {
             }
         }
         SectionHeader {
+            width: parent.width
             topPadding: Theme.spacing
             leftPadding: Theme.spacingTiny
+            rightPadding: Theme.spacingTiny
             text: qsTr("Permissions")
         }
         FormGroup {

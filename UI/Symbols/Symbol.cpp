@@ -5,6 +5,7 @@
 
 #include "UI/Symbols/SymbolImage.h"
 
+#include <QGuiApplication>
 #include <QQuickWindow>
 #include <QSGImageNode>
 
@@ -12,6 +13,16 @@
 #include <memory>
 
 namespace Korvane {
+
+namespace {
+
+/// Whether a symbol shows the way that a person reads, and turns with it.
+bool isMirrored(const QString& name)
+{
+    return name == QLatin1String("chevron.right") && QGuiApplication::layoutDirection() == Qt::RightToLeft;
+}
+
+} // namespace
 
 Symbol::Symbol(QQuickItem* parent)
     : QQuickItem(parent)
@@ -80,6 +91,8 @@ QSGNode* Symbol::updatePaintNode(QSGNode* node, UpdatePaintNodeData*)
         }
         image->setTexture(window()->createTextureFromImage(picture, QQuickWindow::TextureHasAlphaChannel));
         image->setFiltering(QSGTexture::Linear);
+        image->setTextureCoordinatesTransform(
+            isMirrored(m_name) ? QSGImageNode::MirrorHorizontally : QSGImageNode::NoTransform);
         m_stale = false;
     }
     const qreal left = std::round((width() - m_size) / 2);

@@ -17,6 +17,7 @@ Item {
     AppIcon {
         id: icon
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         size: 72
         source: header.viewModel.selected.iconSource
@@ -52,6 +53,7 @@ Item {
             text: header.viewModel.selected.identifier
         }
         Row {
+            anchors.left: parent.left
             visible: header.viewModel.selectedRunning
             spacing: 6
 

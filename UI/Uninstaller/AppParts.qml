@@ -45,6 +45,7 @@ Flickable {
         spacing: Theme.spacing
 
         SectionHeader {
+            width: parent.width
             text: qsTr("Application")
         }
         Card {
@@ -67,6 +68,7 @@ Flickable {
             height: Theme.spacing
         }
         SectionHeader {
+            width: parent.width
             text: parts.viewModel.selected.leftoversTitle
         }
         Card {

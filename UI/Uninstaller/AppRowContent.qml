@@ -18,6 +18,7 @@ Item {
     AppIcon {
         id: icon
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         size: 36
         source: content.iconSource

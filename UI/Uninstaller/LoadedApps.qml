@@ -17,6 +17,7 @@ FocusScope {
     AppsPane {
         id: apps
 
+        anchors.left: parent.left
         width: Math.max(288, Math.min(380, Math.round(view.width * 0.38)))
         height: parent.height
         focus: true
