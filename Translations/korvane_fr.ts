@@ -49,7 +49,7 @@
     <name>AllCleanView</name>
     <message>
         <source>All Clean!</source>
-        <translation>Tout est propre !</translation>
+        <translation>Tout est propre&#x202f;!</translation>
     </message>
     <message>
         <source>Nothing found to clean in this module.</source>
@@ -326,7 +326,7 @@
     </message>
     <message>
         <source>Connect an iPhone or iPad with a cable and tap Trust on the device.</source>
-        <translation>Connectez un iPhone ou un iPad par câble et touchez « Se fier » sur l’appareil.</translation>
+        <translation>Connectez un iPhone ou un iPad par câble et touchez «&#xa0;Se fier&#xa0;» sur l’appareil.</translation>
     </message>
     <message>
         <source>Connected devices</source>
@@ -359,7 +359,7 @@
     </message>
     <message>
         <source>· last backup %1</source>
-        <translation>· dernière sauvegarde : %1</translation>
+        <translation>· dernière sauvegarde&#xa0;: %1</translation>
     </message>
     <message>
         <source>d MMM yyyy</source>
@@ -408,7 +408,7 @@
     </message>
     <message>
         <source>Export failed for %1; what lies there now could not be moved to the Trash: %2</source>
-        <translation>Échec de l’exportation de %1 ; ce qui s’y trouve à présent n’a pas pu être mis à la corbeille : %2</translation>
+        <translation>Échec de l’exportation de %1&#x202f;; ce qui s’y trouve à présent n’a pas pu être mis à la corbeille&#xa0;: %2</translation>
     </message>
     <message>
         <source>stopping it was cancelled</source>
@@ -428,11 +428,11 @@
     </message>
     <message>
         <source>not moved to the Trash: %1</source>
-        <translation>non mis à la corbeille : %1</translation>
+        <translation>non mis à la corbeille&#xa0;: %1</translation>
     </message>
     <message>
         <source>moved to the Trash, but it may still run until the next login: %1</source>
-        <translation>mis à la corbeille, mais peut encore s’exécuter jusqu’à la prochaine ouverture de session : %1</translation>
+        <translation>mis à la corbeille, mais peut encore s’exécuter jusqu’à la prochaine ouverture de session&#xa0;: %1</translation>
     </message>
     <message>
         <source>Unknown error</source>
@@ -440,19 +440,19 @@
     </message>
     <message>
         <source>“%1” is not a Trash of this user.</source>
-        <translation>« %1 » n’est pas une corbeille de cet utilisateur.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une corbeille de cet utilisateur.</translation>
     </message>
     <message>
         <source>“%1” is a link; what it leads to is left alone.</source>
-        <translation>« %1 » est un lien ; sa cible n’est pas touchée.</translation>
+        <translation>«&#xa0;%1&#xa0;» est un lien&#x202f;; sa cible n’est pas touchée.</translation>
     </message>
     <message>
         <source>“%1” holds the Trash, and cannot be moved into it.</source>
-        <translation>« %1 » contient la corbeille et ne peut pas y être placé.</translation>
+        <translation>«&#xa0;%1&#xa0;» contient la corbeille et ne peut pas y être placé.</translation>
     </message>
     <message>
         <source>“%1”, the Trash of this volume, is not a folder of this user.</source>
-        <translation>« %1 », la corbeille de ce volume, n’est pas un dossier de cet utilisateur.</translation>
+        <translation>«&#xa0;%1&#xa0;», la corbeille de ce volume, n’est pas un dossier de cet utilisateur.</translation>
     </message>
     <message>
         <source>Nothing was named to be removed.</source>
@@ -460,11 +460,11 @@
     </message>
     <message>
         <source>“%1” cannot be the name of a file.</source>
-        <translation>« %1 » ne peut pas être un nom de fichier.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être un nom de fichier.</translation>
     </message>
     <message>
         <source>“%1” is not a full path.</source>
-        <translation>« %1 » n’est pas un chemin complet.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un chemin complet.</translation>
     </message>
     <message>
         <source>The root of the file system is never removed.</source>
@@ -472,19 +472,19 @@
     </message>
     <message>
         <source>“%1” does not name an item but a way to one.</source>
-        <translation>« %1 » ne désigne pas un élément, mais un chemin vers un élément.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne désigne pas un élément, mais un chemin vers un élément.</translation>
     </message>
     <message>
         <source>“%1” is the home folder, or holds it, and is never removed.</source>
-        <translation>« %1 » est le dossier de départ, ou le contient, et n’est jamais supprimé.</translation>
+        <translation>«&#xa0;%1&#xa0;» est le dossier de départ, ou le contient, et n’est jamais supprimé.</translation>
     </message>
     <message>
         <source>“%1” is where a volume is mounted, and is never removed.</source>
-        <translation>Un volume est monté sur « %1 », qui n’est jamais supprimé.</translation>
+        <translation>Un volume est monté sur «&#xa0;%1&#xa0;», qui n’est jamais supprimé.</translation>
     </message>
     <message>
         <source>“%1” is a folder shared by all users, and is never removed.</source>
-        <translation>« %1 » est un dossier partagé par tous les utilisateurs et n’est jamais supprimé.</translation>
+        <translation>«&#xa0;%1&#xa0;» est un dossier partagé par tous les utilisateurs et n’est jamais supprimé.</translation>
     </message>
     <message>
         <source>A volume is mounted inside</source>
@@ -492,7 +492,7 @@
     </message>
     <message>
         <source>There is nothing to flush: this machine keeps no DNS cache</source>
-        <translation>Rien à vider : cette machine n’a pas de cache DNS</translation>
+        <translation>Rien à vider&#xa0;: cette machine n’a pas de cache DNS</translation>
     </message>
     <message>
         <source>pkexec is missing, which asks for an administrator&apos;s password</source>
@@ -508,23 +508,23 @@
     </message>
     <message>
         <source>The request for an administrator&apos;s password was dismissed; nothing was changed</source>
-        <translation>La demande de mot de passe d’un administrateur a été refusée ; rien n’a été modifié</translation>
+        <translation>La demande de mot de passe d’un administrateur a été refusée&#x202f;; rien n’a été modifié</translation>
     </message>
     <message>
         <source>An administrator&apos;s rights were not given; nothing was changed</source>
-        <translation>Les droits d’administrateur n’ont pas été accordés ; rien n’a été modifié</translation>
+        <translation>Les droits d’administrateur n’ont pas été accordés&#x202f;; rien n’a été modifié</translation>
     </message>
     <message>
         <source>No program that asks for an administrator&apos;s password is running (a polkit agent); nothing was changed</source>
-        <translation>Aucun programme demandant le mot de passe d’un administrateur (un agent polkit) n’est lancé ; rien n’a été modifié</translation>
+        <translation>Aucun programme demandant le mot de passe d’un administrateur (un agent polkit) n’est lancé&#x202f;; rien n’a été modifié</translation>
     </message>
     <message>
         <source>An administrator&apos;s password could not be asked for: %1</source>
-        <translation>Impossible de demander le mot de passe d’un administrateur : %1</translation>
+        <translation>Impossible de demander le mot de passe d’un administrateur&#xa0;: %1</translation>
     </message>
     <message>
         <source>The command failed: %1</source>
-        <translation>La commande a échoué : %1</translation>
+        <translation>La commande a échoué&#xa0;: %1</translation>
     </message>
     <message>
         <source>The command was ended by signal %1</source>
@@ -637,12 +637,12 @@
     <message>
         <source>Install libimobiledevice to talk to iPhones and iPads:
 %1</source>
-        <translation>Installez libimobiledevice pour communiquer avec les iPhone et iPad :
+        <translation>Installez libimobiledevice pour communiquer avec les iPhone et iPad&#xa0;:
 %1</translation>
     </message>
     <message>
         <source>Delete backup of %1?</source>
-        <translation>Supprimer la sauvegarde de %1 ?</translation>
+        <translation>Supprimer la sauvegarde de %1&#x202f;?</translation>
     </message>
 </context>
 <context>
@@ -689,8 +689,8 @@
     <message numerus="yes">
         <source>Delete %n files from %1?</source>
         <translation>
-            <numerusform>Supprimer %n fichier de %1 ?</numerusform>
-            <numerusform>Supprimer %n fichiers de %1 ?</numerusform>
+            <numerusform>Supprimer %n fichier de %1&#x202f;?</numerusform>
+            <numerusform>Supprimer %n fichiers de %1&#x202f;?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -731,7 +731,7 @@
     </message>
     <message>
         <source>Uninstall %1?</source>
-        <translation>Désinstaller %1 ?</translation>
+        <translation>Désinstaller %1&#x202f;?</translation>
     </message>
     <message>
         <source>Removes the app for good and moves all leftovers to Trash</source>
@@ -740,8 +740,8 @@
     <message numerus="yes">
         <source>Flatpak will remove the app for good: it can be installed again, but not be put back. %n leftover items will be moved to Trash.</source>
         <translation>
-            <numerusform>Flatpak supprimera l’app définitivement : elle pourra être réinstallée, mais pas remise en place. %n élément résiduel sera mis à la corbeille.</numerusform>
-            <numerusform>Flatpak supprimera l’app définitivement : elle pourra être réinstallée, mais pas remise en place. %n éléments résiduels seront mis à la corbeille.</numerusform>
+            <numerusform>Flatpak supprimera l’app définitivement&#xa0;: elle pourra être réinstallée, mais pas remise en place. %n élément résiduel sera mis à la corbeille.</numerusform>
+            <numerusform>Flatpak supprimera l’app définitivement&#xa0;: elle pourra être réinstallée, mais pas remise en place. %n éléments résiduels seront mis à la corbeille.</numerusform>
         </translation>
     </message>
     <message>
@@ -772,7 +772,7 @@
     </message>
     <message>
         <source>Remove %1?</source>
-        <translation>Supprimer %1 ?</translation>
+        <translation>Supprimer %1&#x202f;?</translation>
     </message>
 </context>
 <context>
@@ -808,11 +808,11 @@
     <name>Korvane::ScanResultsModel</name>
     <message>
         <source>All files of this set are one file under several names: removing copies frees no space.</source>
-        <translation>Tous les fichiers de ce groupe sont un seul fichier sous plusieurs noms : supprimer des copies ne libère pas d’espace.</translation>
+        <translation>Tous les fichiers de ce groupe sont un seul fichier sous plusieurs noms&#xa0;: supprimer des copies ne libère pas d’espace.</translation>
     </message>
     <message>
         <source>Another path of this set leads to this same file: cleaning one removes both.</source>
-        <translation>Un autre chemin de ce groupe mène au même fichier : nettoyer l’un supprime les deux.</translation>
+        <translation>Un autre chemin de ce groupe mène au même fichier&#xa0;: nettoyer l’un supprime les deux.</translation>
     </message>
 </context>
 <context>
@@ -849,7 +849,7 @@
     </message>
     <message>
         <source>Last cleanup: %1</source>
-        <translation>Dernier nettoyage : %1</translation>
+        <translation>Dernier nettoyage&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1015,7 +1015,7 @@
     </message>
     <message>
         <source>Clean the selected items?</source>
-        <translation>Nettoyer les éléments sélectionnés ?</translation>
+        <translation>Nettoyer les éléments sélectionnés&#x202f;?</translation>
     </message>
 </context>
 <context>
