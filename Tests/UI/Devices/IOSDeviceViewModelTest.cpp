@@ -4,6 +4,8 @@
 #include "UI/IOSDeviceViewModel.h"
 
 #include "Platform/DeviceToolsHint.h"
+#include "Platform/FileError.h"
+#include "Tests/Core/ForwardingFileManager.h"
 #include "Tests/UI/Devices/DeviceHome.h"
 
 #include <QSignalSpy>
@@ -34,7 +36,8 @@ private Q_SLOTS:
     void theSameDeviceKeepsItsCameraRoll();
     void removesABackup();
     void aBackupThatIsGoneIsListedNoMore();
-    void aBackupThatCannotBeMovedStays();
+    void aBackupThatTheTrashRefusesStays();
+    void whatIsNoBackupIsNotMoved();
     void aRemovalOutlivesItsScreen();
     void asksAboutTheBackupAsItWasFound();
 
@@ -232,7 +235,29 @@ void IOSDeviceViewModelTest::aBackupThatIsGoneIsListedNoMore()
     QVERIFY(!isInTestTrash(host().environment, "one"));
 }
 
-void IOSDeviceViewModelTest::aBackupThatCannotBeMovedStays()
+void IOSDeviceViewModelTest::aBackupThatTheTrashRefusesStays()
+{
+    const auto files = std::make_shared<ForwardingFileManager>(host().files);
+    std::vector<fs::path> refused;
+    files->beforeRemoving = [&](const fs::path& path) {
+        refused.push_back(path);
+        throw FileError(path, std::make_error_code(std::errc::no_space_on_device));
+    };
+    host().files = files;
+    m_model = std::make_unique<IOSDeviceViewModel>(host(), m_home->work);
+    addBackup(m_home->home(), "one", "Anna's iPhone", 100'000);
+    load();
+    QSignalSpy scanned(m_model.get(), &IOSDeviceViewModel::backupsChanged);
+    m_model->ask(idOf(0));
+    m_model->deleteAsked();
+    QTRY_COMPARE(scanned.count(), 2);
+    QCOMPARE(refused, std::vector<fs::path>{ m_home->backups() / "one" });
+    QCOMPARE(m_model->backupRows()->rowCount(), 1);
+    QCOMPARE(m_model->backups().front().url, m_home->backups() / "one");
+    QVERIFY(fs::exists(m_home->backups() / "one/Manifest.db") && !isInTestTrash(host().environment, "one"));
+}
+
+void IOSDeviceViewModelTest::whatIsNoBackupIsNotMoved()
 {
     addBackup(m_home->home(), "one", "Anna's iPhone", 100'000);
     writeFile(m_home->home() / "Documents/Info.plist", "");

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void positionsThatAreNotThereChangeNothing();
     void manyFilesAreTickedAtOnce();
     void hostileNamesAreRows();
+    void aRowShowsWhetherItIsAVideo();
 };
 
 namespace {
@@ -230,6 +231,20 @@ void MediaTreeModelTest::hostileNamesAreRows()
     model.toggleFile(0, 0);
     // What is shown is not what is sent.
     QCOMPARE(tickedPaths(model).front(), std::string("/DCIM/\xff/\xe2\x80\xaegpj.exe"));
+}
+
+void MediaTreeModelTest::aRowShowsWhetherItIsAVideo()
+{
+    MediaTreeModel model;
+    IOSMediaFolder mixed{ "/DCIM/100APPLE", "100APPLE", {} };
+    for (const char* name : { "IMG_1.MOV", "IMG_2.HEIC", "IMG_3.mp4", "IMG_4.M4V", "IMG_5.JPG", "MOV" })
+        mixed.files.push_back({ mixed.path + "/" + name, name });
+    model.setListing(listing({ mixed }));
+    QStringList symbols;
+    for (int row = 0; row < model.rowCount(); ++row)
+        symbols.append(model.index(row).data(MediaTreeModel::SymbolRole).toString());
+    QCOMPARE(symbols.join(u' '),
+        QStringLiteral("folder.fill video.fill photo.fill video.fill video.fill photo.fill photo.fill"));
 }
 
 QTEST_GUILESS_MAIN(MediaTreeModelTest)
