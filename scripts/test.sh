@@ -65,7 +65,7 @@ if [ -z "$quick" ]; then
         build "$sanitizer" tests-Platform tests-Core
         ctest --preset "$sanitizer" --label-regex '^(Platform|Core)$'
     done
-    begin "breeding property lists with libFuzzer"
+    begin "breeding property lists and listings of devices with libFuzzer"
     scripts/fuzz
     say "test.sh: everything passed, under the sanitizers too."
 else

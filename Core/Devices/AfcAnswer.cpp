@@ -71,6 +71,20 @@ void appendError(std::vector<std::string>& errors, std::string_view line, Before
     }
 }
 
+/// The text with each occurrence of the other one left out, from the front; an empty one occurs nowhere.
+std::string without(std::string_view text, std::string_view unwanted)
+{
+    std::string rest;
+    while (!unwanted.empty()) {
+        const auto begin = text.find(unwanted);
+        if (begin == std::string_view::npos)
+            break;
+        rest += text.substr(0, begin);
+        text.remove_prefix(begin + unwanted.size());
+    }
+    return rest += text;
+}
+
 } // namespace
 
 AfcAnswer::AfcAnswer(std::string output, Ending ending)
@@ -103,11 +117,8 @@ std::vector<std::string> AfcAnswer::errorsWithout(std::vector<std::string> texts
     std::sort(texts.begin(), texts.end(), [](const auto& one, const auto& other) { return one.size() > other.size(); });
     auto errors = this->errors();
     for (auto& error : errors) {
-        for (const auto& text : texts) {
-            for (auto begin = error.find(text); !text.empty() && begin != std::string::npos;
-                 begin = error.find(text, begin))
-                error.erase(begin, text.size());
-        }
+        for (const auto& text : texts)
+            error = without(error, text);
     }
     return errors;
 }

@@ -4,6 +4,8 @@
 #include "Core/Devices/AfcWords.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace Korvane {
 
@@ -57,9 +59,36 @@ std::vector<std::string> splitOutsideQuotes(std::string_view text, ClosingQuote 
     return words;
 }
 
+void makeUnique(std::vector<std::string>& texts)
+{
+    std::sort(texts.begin(), texts.end());
+    texts.erase(std::unique(texts.begin(), texts.end()), texts.end());
+}
+
+/// What the builds split the text into, each word once.
+std::vector<std::string> distinctWords(std::string_view text)
+{
+    auto words = splitAtBlanks(text);
+    const auto joins = [](char character) { return isQuote(character) || character == '\\'; };
+    if (std::any_of(text.begin(), text.end(), joins)) {
+        for (const auto closing : { ClosingQuote::Same, ClosingQuote::Any }) {
+            for (const auto backslash : { Backslash::Escapes, Backslash::Plain }) {
+                auto others = splitOutsideQuotes(text, closing, backslash);
+                std::move(others.begin(), others.end(), std::back_inserter(words));
+            }
+        }
+    }
+    makeUnique(words);
+    return words;
+}
+
 /// Appends the word as it is, and with what some builds drop left out.
 void appendReadings(std::vector<std::string>& readings, const std::string& word)
 {
+    if (isPlainWord(word)) {
+        readings.push_back(word);
+        return;
+    }
     const auto unquoted = without(word, isQuote);
     const auto isBackslash = [](char character) { return character == '\\'; };
     for (const auto& reading : { word, unquoted, without(word, isBackslash), without(unquoted, isBackslash) }) {
@@ -75,17 +104,10 @@ std::vector<std::string> possibleWords(std::string_view text)
     if (isPlainWord(text))
         return { std::string(text) };
     std::vector<std::string> readings;
-    for (const auto& word : splitAtBlanks(text))
+    for (const auto& word : distinctWords(text))
         appendReadings(readings, word);
-    for (const auto closing : { ClosingQuote::Same, ClosingQuote::Any }) {
-        for (const auto backslash : { Backslash::Escapes, Backslash::Plain }) {
-            for (const auto& word : splitOutsideQuotes(text, closing, backslash))
-                appendReadings(readings, word);
-        }
-    }
-    std::sort(readings.begin(), readings.end());
-    readings.erase(std::unique(readings.begin(), readings.end()), readings.end());
-    if (readings.front().empty())
+    makeUnique(readings);
+    if (!readings.empty() && readings.front().empty())
         readings.erase(readings.begin());
     return readings;
 }
