@@ -10,6 +10,7 @@
 #include "Core/Devices/IOSDeviceManager.h"
 #include "Core/Devices/IOSMediaManager.h"
 #include "Platform/DisplayText.h"
+#include "Platform/EnsureFolder.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -42,11 +43,12 @@ std::vector<IOSMediaFile> named(const CommandLine& line, const std::vector<IOSMe
     return files;
 }
 
-/// Where the files are to go, as an absolute path.
+/// Where the files are to go, as an absolute path. One that was named has to be there.
 std::filesystem::path exportFolder(const CommandLine& line, const Host& host)
 {
-    const auto folder
-        = line.exportFolder ? std::filesystem::absolute(*line.exportFolder) : host.environment.downloads();
+    if (!line.exportFolder)
+        return host.environment.downloads();
+    auto folder = std::filesystem::absolute(*line.exportFolder);
     std::error_code error;
     if (!std::filesystem::is_directory(folder, error))
         throw std::runtime_error(displayText(folder) + " is no folder");
@@ -96,6 +98,8 @@ MediaExportResult Program::exportEach(const CommandLine& line, const std::filesy
 {
     const auto listing = scanMedia(line);
     const auto files = named(line, listing);
+    if (!line.exportFolder)
+        ensureFolder(folder);
     TerminalProgress terminal;
     MediaExportResult result{ folder, {}, {} };
     for (const auto& file : files) {

@@ -3,6 +3,7 @@
 
 #include "CLI/MediaReports.h"
 #include "Tests/CLI/ProgramMediaFixture.h"
+#include "Tests/Support/OrdinaryUser.h"
 #include "Tests/Support/Sentinel.h"
 
 namespace Korvane {
@@ -79,6 +80,45 @@ TEST_F(ProgramMediaTest, FilesAreExportedToANamedFolder)
     EXPECT_EQ(
         runHere({ "media", "export", "UDID", first, "--to=" + (home() / "missing").string() }), ExitStatus::Failed);
     EXPECT_EQ(errors, "korvane-cli: " + (home() / "missing").string() + " is no folder\n");
+}
+
+TEST_F(ProgramMediaTest, MissingFolderOfDownloadsIsMadeForWhatIsExported)
+{
+    std::filesystem::remove(downloads());
+    EXPECT_EQ(runHere({ "media", "export", "UDID", "/DCIM/other" }), ExitStatus::WrongUse);
+    EXPECT_FALSE(std::filesystem::exists(downloads()));
+    EXPECT_EQ(runHere({ "media", "export", "UDID", first }), ExitStatus::Done);
+    EXPECT_EQ(output, "Exported 1 file to " + downloads().string() + "\n");
+    EXPECT_EQ(readFile(downloads() / "IMG_1.JPG"), "one");
+}
+
+TEST_F(ProgramMediaTest, WhatLiesInPlaceOfTheFolderOfDownloadsIsTold)
+{
+    std::filesystem::remove(downloads());
+    std::filesystem::create_symlink(home() / "nowhere", downloads());
+    const auto complaint = "korvane-cli: " + downloads().string() + ": Not a directory\n";
+    EXPECT_EQ(runHere({ "media", "export", "UDID", first }), ExitStatus::Failed);
+    EXPECT_EQ(errors, complaint);
+    EXPECT_FALSE(std::filesystem::exists(home() / "nowhere"));
+    std::filesystem::remove(downloads());
+    const Sentinel file(downloads());
+    EXPECT_EQ(runHere({ "media", "export", "UDID", first }), ExitStatus::Failed);
+    EXPECT_EQ(errors, complaint);
+    EXPECT_EQ(file.difference(), "");
+}
+
+TEST_F(ProgramMediaTest, FolderOfDownloadsThatCannotBeMadeIsTold)
+{
+    std::filesystem::remove(downloads());
+    giveToOrdinaryUser(folder.path());
+    std::filesystem::permissions(home(), std::filesystem::perms(0555));
+    EXPECT_EQ(runAsOrdinaryUser([&] {
+        const auto status = runHere({ "media", "export", "UDID", first });
+        return std::to_string(static_cast<int>(status)) + "|" + errors;
+    }),
+        std::to_string(static_cast<int>(ExitStatus::Failed)) + "|korvane-cli: " + downloads().string()
+            + ": Permission denied\n");
+    std::filesystem::permissions(home(), std::filesystem::perms(0755));
 }
 
 TEST_F(ProgramMediaTest, FailureDoesNotStopTheRestAndReplacesNothing)

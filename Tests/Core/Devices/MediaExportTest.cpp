@@ -181,4 +181,14 @@ TEST_F(MediaExportTest, FolderThatIsMissingOrClosedIsAFailure)
     EXPECT_EQ(runAsOrdinaryUser([&] { return exportFailure(path, downloads()); }), "");
 }
 
+TEST_F(MediaExportTest, NothingIsMadeWhereThereIsNoFolder)
+{
+    const Sentinel inTheWay(home() / "file");
+    std::filesystem::create_symlink(home() / "nowhere", home() / "dangling");
+    for (const char* name : { "missing", "file", "dangling" })
+        expectFailure(path, home() / name);
+    EXPECT_EQ(inTheWay.difference(), "");
+    EXPECT_FALSE(std::filesystem::exists(home() / "nowhere") || std::filesystem::exists(home() / "missing"));
+}
+
 } // namespace Korvane
