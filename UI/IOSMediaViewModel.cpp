@@ -3,6 +3,8 @@
 
 #include "UI/IOSMediaViewModel.h"
 
+#include "Platform/EnsureFolder.h"
+#include "Platform/FileError.h"
 #include "Platform/Localized.h"
 #include "UI/Background.h"
 #include "UI/Devices/DeviceTexts.h"
@@ -43,6 +45,11 @@ Exported exportFiles(const Host& host, const std::string& udid, const std::vecto
 {
     const IOSMediaManager manager(host);
     const std::filesystem::path downloads = host.environment.downloads();
+    try {
+        ensureFolder(downloads);
+    } catch (const FileError&) {
+        // Each file fails for want of it.
+    }
     Exported exported;
     for (const IOSMediaFile& file : files) {
         if (cancellation.isCancelled())

@@ -69,7 +69,8 @@ public:
     void setDeviceName(const std::string& name);
     /// Lists the camera roll afresh; a listing that is still under way is never heard of again.
     Q_INVOKABLE void load();
-    /// Copies the ticked files into the folder of downloads, one after the other. Nothing unless `ready`.
+    /// Copies the ticked files into the folder of downloads, which is made when it is missing, one after the other.
+    /// Nothing unless `ready`.
     Q_INVOKABLE void exportSelected();
     /// What the user is asked before the ticked files are deleted.
     Q_INVOKABLE QString deletionQuestion() const;

@@ -86,15 +86,14 @@ DevicePlaces placesAround(const std::vector<std::string>& paths, const std::vect
 /// One deletion on the way.
 class IOSMediaManager::Deletion {
 public:
-    Deletion(const Host& host, const std::string& udid, const Cancellation& cancellation)
+    Deletion(const Host& host, const std::string& udid)
         : m_host(host)
         , m_udid(udid)
-        , m_cancellation(cancellation)
     {
     }
 
     /// Deletes the paths that can be given to the tool without naming another place, in one run.
-    void run(const std::vector<std::string>& paths, const DevicePlaces& places)
+    void run(const std::vector<std::string>& paths, const DevicePlaces& places, const Cancellation& cancellation)
     {
         std::vector<std::string> commands;
         for (const auto& path : paths) {
@@ -106,18 +105,18 @@ public:
             m_sent.insert(path);
         }
         if (!commands.empty() || paths.empty())
-            m_hadPrompt = runAFC(commands, m_udid, m_host, m_cancellation).hasPrompt();
+            m_hadPrompt = runAFC(commands, m_udid, m_host, cancellation).hasPrompt();
     }
 
     /// Whether a path is gone; asks the device once for each folder.
-    bool isGone(const std::string& path)
+    bool isGone(const std::string& path, const Cancellation& cancellation)
     {
         if (m_sent.count(path) == 0)
             return false;
         const auto folder = deviceFolderOf(path);
         auto known = m_remaining.find(folder);
         if (known == m_remaining.end())
-            known = m_remaining.emplace(folder, remainingIn(folder)).first;
+            known = m_remaining.emplace(folder, remainingIn(folder, cancellation)).first;
         return known->second && known->second->count(path) == 0;
     }
 
@@ -125,10 +124,10 @@ private:
     using Paths = std::unordered_set<std::string>;
 
     /// The paths that a folder still has; nothing when the device did not tell.
-    std::optional<Paths> remainingIn(const std::string& folder) const
+    std::optional<Paths> remainingIn(const std::string& folder, const Cancellation& cancellation) const
     {
         const std::vector<std::string> commands{ "ls " + folder };
-        const auto answer = runAFC(commands, m_udid, m_host, m_cancellation);
+        const auto answer = runAFC(commands, m_udid, m_host, cancellation);
         if (!isFromTheDevice(answer, m_hadPrompt))
             return std::nullopt;
         const auto all = parseNames(answer.text());
@@ -145,7 +144,6 @@ private:
 
     const Host& m_host;
     const std::string& m_udid;
-    const Cancellation& m_cancellation;
     Paths m_sent;
     bool m_hadPrompt = false;
     std::unordered_map<std::string, std::optional<Paths>> m_remaining;
@@ -181,17 +179,23 @@ std::vector<IOSMediaFolder> IOSMediaManager::listMedia(
 }
 
 std::vector<std::string> IOSMediaManager::remove(const std::vector<std::string>& paths, const std::string& udid,
-    const std::vector<IOSMediaFolder>& listing, const Cancellation& cancellation) const
+    const std::vector<IOSMediaFolder>& listing, const Cancellation& cancellation, const Cancellation& proof) const
 {
     requireTool(m_host);
-    Deletion deletion(m_host, udid, cancellation);
-    deletion.run(paths, placesAround(paths, listing));
+    Deletion deletion(m_host, udid);
+    deletion.run(paths, placesAround(paths, listing), cancellation);
     std::vector<std::string> remaining;
     for (const auto& path : paths) {
-        if (!deletion.isGone(path))
+        if (!deletion.isGone(path, proof))
             remaining.push_back(path);
     }
     return remaining;
+}
+
+std::vector<std::string> IOSMediaManager::remove(const std::vector<std::string>& paths, const std::string& udid,
+    const std::vector<IOSMediaFolder>& listing, const Cancellation& cancellation) const
+{
+    return remove(paths, udid, listing, cancellation, cancellation);
 }
 
 void IOSMediaManager::exportFile(const IOSMediaFile& file, const std::string& udid,

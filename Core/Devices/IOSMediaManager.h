@@ -38,6 +38,11 @@ public:
     /// Left out, and still there, is a path whose words, as the tool takes them, name another place of `listing` or of
     /// `paths`, one that a script cannot hold, and one that a listing would not show as it is. A path counts as gone
     /// only when a listing that shows no error lacks it. A cancelled deletion may have deleted some.
+    ///
+    /// `proof` ends only the listings afterwards, which find out what is still there, and `cancellation` only the
+    /// deletion itself; where one is given, it ends both.
+    std::vector<std::string> remove(const std::vector<std::string>& paths, const std::string& udid,
+        const std::vector<IOSMediaFolder>& listing, const Cancellation& cancellation, const Cancellation& proof) const;
     std::vector<std::string> remove(const std::vector<std::string>& paths, const std::string& udid,
         const std::vector<IOSMediaFolder>& listing, const Cancellation& cancellation = {}) const;
 

@@ -27,11 +27,11 @@ std::vector<std::string> pathsOf(const std::vector<IOSMediaFile>& files)
 }
 
 MediaDeletion finished(MediaDeletion deletion, const std::vector<std::string>& paths, const MediaListing& listing,
-    const Host& host, const Cancellation& cancellation)
+    const Host& host, const Cancellation& cancellation, const Cancellation& proof)
 {
     std::unordered_set<std::string> remaining;
     try {
-        const auto left = IOSMediaManager(host).remove(paths, deletion.udid, listing.folders(), cancellation);
+        const auto left = IOSMediaManager(host).remove(paths, deletion.udid, listing.folders(), cancellation, proof);
         deletion.remaining = left.size();
         remaining.insert(left.begin(), left.end());
     } catch (const std::exception& error) {
@@ -45,6 +45,13 @@ MediaDeletion finished(MediaDeletion deletion, const std::vector<std::string>& p
 }
 
 } // namespace
+
+DeviceWork::~DeviceWork()
+{
+    m_proof.cancel();
+    if (!m_underWay.empty())
+        m_threads.pool().waitForDone(static_cast<int>(m_grace.count()));
+}
 
 void DeviceWork::removeBackup(const IOSBackup& backup, const Host& host)
 {
@@ -61,9 +68,8 @@ quint64 DeviceWork::deleteMedia(const std::vector<IOSMediaFile>& files, const st
     runInBackground(
         threads(), this,
         [deletion = m_underWay.back(), paths = pathsOf(files), listing = std::move(listing), host,
-            cancellation = m_threads.cancellation()] {
-            return finished(deletion, paths, *listing, host, cancellation);
-        },
+            cancellation = m_threads.cancellation(),
+            proof = m_proof] { return finished(deletion, paths, *listing, host, cancellation, proof); },
         [this](const MediaDeletion& deletion) {
             std::erase_if(m_underWay, [&](const MediaDeletion& other) { return other.id == deletion.id; });
             Q_EMIT mediaDeleted(deletion);

@@ -5,6 +5,7 @@
 
 #include "Core/Devices/IOSBackup.h"
 #include "Core/Devices/IOSMediaFile.h"
+#include "Platform/Cancellation.h"
 #include "Platform/Host.h"
 #include "UI/Devices/MediaDeletion.h"
 #include "UI/Devices/MediaListing.h"
@@ -12,6 +13,7 @@
 
 #include <QObject>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,12 +24,20 @@ namespace Korvane {
 /// What is under way with devices and backups: screens run here what waits for a tool, and what outlives them, the
 /// deletions and removals that have begun.
 ///
-/// Main thread. Its end cancels what still runs and waits until that has ended.
+/// Main thread. Its end cancels what still runs and waits until that has ended. A deletion that has begun was
+/// confirmed: it is given a while to delete what it was asked for, but not to find out what is still there.
 class DeviceWork : public QObject {
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    /// How long a deletion may take from the end of this on; nobody waits longer for a program to quit.
+    static constexpr std::chrono::milliseconds graceOfADeletion{ 5000 };
+
+    explicit DeviceWork(std::chrono::milliseconds grace = graceOfADeletion)
+        : m_grace(grace)
+    {
+    }
+    ~DeviceWork() override;
 
     QThreadPool& threads() { return m_threads.pool(); }
     /// Moves a backup to the Trash.
@@ -48,6 +58,8 @@ Q_SIGNALS:
 
 private:
     WaitingThreads m_threads;
+    const Cancellation m_proof; ///< Of finding out what deletions have left.
+    const std::chrono::milliseconds m_grace;
     quint64 m_deletions = 0;
     std::vector<MediaDeletion> m_underWay;
 };

@@ -175,6 +175,17 @@ TEST_F(MediaDeletionTest, CancelledBeforeItBeginsNothingIsDeleted)
     EXPECT_TRUE(tool().has(first));
 }
 
+TEST_F(MediaDeletionTest, WhatIsStillThereNeedNotBeFoundOut)
+{
+    const auto listing = list();
+    const Cancellation proof;
+    proof.cancel();
+    tool().forget();
+    EXPECT_THROW(manager().remove({ first }, udid, listing, {}, proof), CancellationError);
+    EXPECT_EQ(commands(), Paths{ "rm " + first });
+    EXPECT_FALSE(tool().has(first));
+}
+
 TEST_F(MediaDeletionTest, ToolThatHangsIsEndedByACancel)
 {
     const auto listing = list();

@@ -18,6 +18,10 @@ printf %s "$prompt"
 refused() { grep -qxF "$1" "$there/refused" 2>/dev/null && printf 'Error: Failed for %s: Permission denied (10)\n' "$1"; }
 while IFS= read -r line; do
     printf '%s\n' "$line" >>"$there/commands"
+    while [ -e "$there/command.held" ] && grep -qxF "$line" "$there/command.held"; do
+        : >"$there/command.waits"
+        sleep 0.02
+    done
     case "$line" in
     quit) exit 0 ;;
     "ls /DCIM") [ -e "$there/folders" ] && cat "$there/folders" || ls -1 "$root/DCIM" 2>/dev/null ;;

@@ -44,6 +44,11 @@ public:
 
     void hold(const std::string& tool) const { writeFile(m_folder / (tool + ".held"), ""); }
     void letGo(const std::string& tool) const { std::filesystem::remove(m_folder / (tool + ".held")); }
+    /// From now on the media tool does not go on at this command, until it is let go.
+    void holdCommand(const std::string& command) const { writeFile(m_folder / "command.held", command); }
+    void letCommandGo() const { std::filesystem::remove(m_folder / "command.held"); }
+    /// Whether the media tool has come to that command.
+    bool isAtHeldCommand() const { return std::filesystem::exists(m_folder / "command.waits"); }
     void uninstall(const std::string& tool) const { std::filesystem::remove(m_tools / tool); }
     /// The process of this tool that runs, or did last; 0 when there was none.
     int process(const std::string& tool) const
