@@ -51,7 +51,7 @@ Column {
         ListView {
             id: devices
 
-            readonly property int rowHeight: 88
+            readonly property int rowHeight: 104
 
             width: parent.width
             // More than hang on cables at once are scrolled through.

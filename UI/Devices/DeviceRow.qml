@@ -42,29 +42,21 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: Theme.spacingHuge
         anchors.verticalCenter: parent.verticalCenter
-        spacing: row.storage === "" ? 2 : Theme.spacing
+        spacing: Theme.spacing
 
-        Item {
+        Column {
             width: parent.width
-            height: nameText.implicitHeight
+            spacing: 2
 
             Label {
-                id: nameText
-
-                anchors.left: parent.left
-                width: Math.min(implicitWidth, parent.width - versionText.width - Theme.spacing)
+                width: parent.width
                 style: Label.Headline
                 elide: Text.ElideMiddle
                 text: ShownText.isolated(row.name)
                 Accessible.ignored: true
             }
             Label {
-                id: versionText
-
-                anchors.left: nameText.right
-                anchors.leftMargin: Theme.spacing
-                anchors.baseline: nameText.baseline
-                width: Math.min(implicitWidth, parent.width / 2)
+                width: parent.width
                 style: Label.Callout
                 color: Theme.secondaryLabel
                 text: ShownText.isolated(row.version)
