@@ -108,6 +108,19 @@ void IOSMediaViewModel::setDeviceName(const std::string& name)
     Q_EMIT deviceNameChanged();
 }
 
+void IOSMediaViewModel::show()
+{
+    m_hidden = false;
+    load();
+}
+
+void IOSMediaViewModel::hide()
+{
+    m_hidden = true;
+    m_listing.cancel();
+    ++m_generation;
+}
+
 void IOSMediaViewModel::load()
 {
     m_listing.cancel();
@@ -201,7 +214,8 @@ void IOSMediaViewModel::finishDeletion(const MediaDeletion& deletion)
     // Whatever has one of these names from now on is another file, which nobody has ticked.
     m_rows.untick(deletion.gone);
     // One that another screen of this device had begun changes what there is as well.
-    load();
+    if (!m_hidden)
+        load();
 }
 
 void IOSMediaViewModel::setPhase(Phase phase, const QString& failure)

@@ -67,6 +67,10 @@ public:
 
     /// The device is the same, its name may not be.
     void setDeviceName(const std::string& name);
+    /// Those who look at it have come: lists the camera roll afresh.
+    Q_INVOKABLE void show();
+    /// They have gone: a listing that is under way is cancelled, and none begins by itself until `show`.
+    Q_INVOKABLE void hide();
     /// Lists the camera roll afresh; a listing that is still under way is never heard of again.
     Q_INVOKABLE void load();
     /// Copies the ticked files into the folder of downloads, which is made when it is missing, one after the other.
@@ -107,6 +111,7 @@ private:
     QString m_failure;
     Progress m_progress;
     bool m_working = false;
+    bool m_hidden = false;
     std::optional<QString> m_statusMessage;
     quint64 m_deletion = 0; ///< The one that this has begun last.
     Cancellation m_listing; ///< Of the listing that is under way.

@@ -34,7 +34,9 @@ SteadyScope {
     Accessible.name: section.viewModel.title
     onShownChanged: {
         if (section.shown)
-            section.viewModel.load();
+            section.viewModel.show();
+        else
+            section.viewModel.hide();
     }
     onBrowsableChanged: {
         // The dialog has the keyboard then.
