@@ -3,7 +3,11 @@
 
 #include "Tests/UI/Devices/DeviceScreenFixture.h"
 
+#include "Tests/Core/ForwardingFileManager.h"
+
 #include <QAccessible>
+
+#include <utility>
 
 namespace Korvane {
 
@@ -23,6 +27,17 @@ QQuickItem* itemIn(QQuickItem* item, const char* kind, const QString& name, cons
             return found;
     }
     return nullptr;
+}
+
+/// Appends the names of the items of this kind that can be seen.
+void collect(QQuickItem* item, const char* kind, QStringList& names)
+{
+    if (!item->isVisible())
+        return;
+    if (item->inherits(kind))
+        names.append(accessibleName(item));
+    for (QQuickItem* child : item->childItems())
+        collect(child, kind, names);
 }
 
 } // namespace
@@ -50,6 +65,24 @@ QQuickItem* DeviceScreenFixture::trashButton(const char* backup) const
 QQuickItem* DeviceScreenFixture::refreshButton(const char* heading) const
 {
     return itemIn(window()->contentItem(), "QQuickButton", utf8("Refresh"), utf8(heading));
+}
+
+QStringList DeviceScreenFixture::bars() const
+{
+    QStringList names;
+    collect(window()->contentItem(), "QQuickProgressBar", names);
+    return names;
+}
+
+void DeviceScreenFixture::restartWith(std::function<void(const std::filesystem::path&)> beforeListing)
+{
+    const auto files = std::make_shared<ForwardingFileManager>(m_test->host.files);
+    files->beforeListing = std::move(beforeListing);
+    m_test->host.files = files;
+    m_app.reset();
+    m_app = std::make_unique<KorvaneApp>(m_test->host);
+    QVERIFY(m_app->start());
+    QVERIFY(QTest::qWaitForWindowExposed(window()));
 }
 
 void DeviceScreenFixture::pressItem(QQuickItem* item) const

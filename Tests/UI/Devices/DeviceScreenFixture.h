@@ -9,6 +9,7 @@
 
 #include <QTest>
 
+#include <functional>
 #include <string>
 
 namespace Korvane {
@@ -29,7 +30,11 @@ protected:
     QQuickItem* trashButton(const char* backup) const;
     /// The button beside this heading.
     QQuickItem* refreshButton(const char* heading) const;
+    /// The names of the bars that can be seen.
+    QStringList bars() const;
     void pressItem(QQuickItem* item) const;
+    /// Starts the application anew, so that this comes before each listing of a folder, on the thread that lists.
+    void restartWith(std::function<void(const std::filesystem::path&)> beforeListing);
     /// Opens the screen, ticks the first folder of `phone`, which has three files, and has the user asked about them.
     void askForThree() const;
     bool isTicked(const char* file) const;

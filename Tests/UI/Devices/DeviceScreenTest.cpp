@@ -7,6 +7,9 @@
 
 #include <QTest>
 
+#include <chrono>
+#include <future>
+
 using namespace Korvane;
 namespace fs = std::filesystem;
 
@@ -64,6 +67,7 @@ void DeviceScreenTest::showsTheDevice()
     QCOMPARE(visibleTexts(window()).filter(QStringLiteral(" used of ")),
         QStringList(utf8("100 GB used of 128 GB — 28 GB free")));
     QTRY_VERIFY(shows("Photos & Videos on Anna's iPhone"));
+    QCOMPARE(bars(), QStringList("Used space of Anna's iPhone"));
     QVERIFY(!shows("Photos & Videos on Ben's iPad"));
     QVERIFY(shows(utf8("Files in the camera roll, via USB. Deleting here is permanent — the device has no trash.")));
     QTRY_VERIFY(rowOf("100APPLE") && rowOf("101APPLE"));
@@ -175,7 +179,7 @@ void DeviceScreenTest::showsWhyTheCameraRollCannotBeRead()
     QVERIFY(!named("Export Selected to Downloads"));
     tools();
     pressItem(refreshButton("Photos & Videos on Anna's iPhone"));
-    QTRY_VERIFY(shows("No media found in the camera roll.") || rowOf("100APPLE"));
+    QTRY_VERIFY(rowOf("100APPLE"));
 }
 
 void DeviceScreenTest::showsThatTheCameraRollIsEmpty()
@@ -244,11 +248,18 @@ void DeviceScreenTest::removesABackup()
 
 void DeviceScreenTest::showsThatBackupsAreMeasured()
 {
-    for (int i = 0; i < 1500; ++i)
-        fs::create_directories(backupsIn(home()) / std::to_string(i) / "a");
+    addBackup(home(), "one", "Anna's iPhone");
+    std::promise<void> held;
+    restartWith([root = backupsIn(home()), go = held.get_future().share()](const fs::path& folder) {
+        if (folder == root)
+            go.wait_for(std::chrono::minutes(1));
+    });
     open();
-    QVERIFY(shows(utf8("Measuring backups…")));
-    QTRY_VERIFY(!shows(utf8("Measuring backups…")) && !shows("No backups found."));
+    QTRY_VERIFY(shows(utf8("Measuring backups…")));
+    QTest::qWait(100);
+    QVERIFY(shows(utf8("Measuring backups…")) && !shows("No backups found.") && !rowOf("Anna's iPhone"));
+    held.set_value();
+    QTRY_VERIFY(!shows(utf8("Measuring backups…")) && rowOf("Anna's iPhone"));
 }
 
 void DeviceScreenTest::oneConfirmationIsOneDeletion()
