@@ -122,6 +122,11 @@ void MirroringTest::theSidebarIsOnTheRight()
     QVERIFY(sidebar && detail);
     QCOMPARE(sidebar->mapToScene(QPointF()).x() + sidebar->width(), static_cast<qreal>(window()->width()));
     QCOMPARE(detail->mapToScene(QPointF()).x(), 0.0);
+    QQuickItem* row = shown(window()->contentItem(), utf8("SidebarRow"));
+    const QQuickItem* symbol = shown(row, utf8("Korvane::Symbol"));
+    const QQuickItem* title = shown(row, utf8("Label"));
+    QVERIFY(symbol && title);
+    QVERIFY(title->x() + title->width() <= symbol->x());
 }
 
 void MirroringTest::aRowBeginsOnTheRight()

@@ -28,7 +28,8 @@ T.AbstractButton {
 
     contentItem: Item {
         Symbol {
-            x: row.mirrored ? parent.width - width - 10 : 10
+            anchors.left: parent.left
+            anchors.leftMargin: 10
             anchors.verticalCenter: parent.verticalCenter
             name: row.symbol
             size: 20
@@ -36,8 +37,8 @@ T.AbstractButton {
         }
         Label {
             anchors.fill: parent
-            anchors.leftMargin: row.mirrored ? 10 : 40
-            anchors.rightMargin: row.mirrored ? 40 : 10
+            anchors.leftMargin: 40
+            anchors.rightMargin: 10
             verticalAlignment: Text.AlignVCenter
             text: row.text
             font.weight: row.selected ? Font.DemiBold : Font.Medium

@@ -49,6 +49,9 @@ T.AbstractButton {
             width: parent.width
             style: Label.Title3
             font.weight: Font.DemiBold
+            // A long name in another language becomes a little smaller before it is cut.
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: Theme.body
             text: card.module.title
             Accessible.ignored: true
         }
