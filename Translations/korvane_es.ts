@@ -232,7 +232,7 @@
     </message>
     <message>
         <source>Large &amp; Old Files</source>
-        <translation>Archivos grandes y antiguos</translation>
+        <translation>Archivos grandes y viejos</translation>
     </message>
     <message>
         <source>Find the files eating your disk</source>

@@ -232,7 +232,7 @@
     </message>
     <message>
         <source>Large &amp; Old Files</source>
-        <translation>Fichiers volumineux et anciens</translation>
+        <translation>Gros et vieux fichiers</translation>
     </message>
     <message>
         <source>Find the files eating your disk</source>
@@ -913,7 +913,7 @@
     <name>MediaActions</name>
     <message>
         <source>Export Selected to Downloads</source>
-        <translation>Exporter la sélection vers Téléchargements</translation>
+        <translation>Exporter vers Téléchargements</translation>
     </message>
     <message>
         <source>Delete from Device</source>

@@ -232,7 +232,7 @@
     </message>
     <message>
         <source>Large &amp; Old Files</source>
-        <translation>大きいファイルと古いファイル</translation>
+        <translation>大容量・古いファイル</translation>
     </message>
     <message>
         <source>Find the files eating your disk</source>

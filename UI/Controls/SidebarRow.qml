@@ -41,6 +41,9 @@ T.AbstractButton {
             anchors.rightMargin: 10
             verticalAlignment: Text.AlignVCenter
             text: row.text
+            // A long name in another language becomes a little smaller before it is cut.
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: Theme.callout
             font.weight: row.selected ? Font.DemiBold : Font.Medium
             Accessible.ignored: true
         }

@@ -27,6 +27,8 @@ Column {
 
         Label {
             Layout.fillWidth: true
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
             color: Theme.secondaryLabel
             text: actions.viewModel.selectionText
         }
