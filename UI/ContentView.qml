@@ -22,7 +22,7 @@ Window {
     minimumHeight: 620
     visible: true
     color: Theme.window
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
     function showSettings(): void {

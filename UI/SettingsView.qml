@@ -23,7 +23,7 @@ Window {
     maximumHeight: height
     flags: Qt.Dialog
     color: Theme.window
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
     Shortcut {
