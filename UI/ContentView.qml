@@ -16,10 +16,10 @@ Window {
     property SettingsView settings: null
 
     title: qsTr("Korvane")
-    width: 1080
-    height: 700
-    minimumWidth: 960
-    minimumHeight: 620
+    width: Metrics.windowWidth
+    height: Metrics.windowHeight
+    minimumWidth: Metrics.minimumWindowWidth
+    minimumHeight: Metrics.minimumWindowHeight
     visible: true
     color: Theme.window
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
@@ -65,7 +65,7 @@ Window {
         anchors.left: parent.left
         anchors.top: parent.top
         anchors.bottom: parent.bottom
-        width: 232
+        width: Metrics.sidebarWidth
         viewModel: window.viewModel
         onSettingsRequested: window.showSettings()
     }

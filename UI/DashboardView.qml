@@ -13,7 +13,7 @@ Flickable {
 
     required property DashboardViewModel viewModel
 
-    readonly property real pageWidth: Math.min(screen.width - 2 * Theme.pageMargin, 1120)
+    readonly property real pageWidth: Math.min(screen.width - 2 * Theme.pageMargin, Metrics.pageWidth)
 
     contentWidth: width
     contentHeight: page.implicitHeight + 2 * Theme.spacingHuge
@@ -31,7 +31,7 @@ Flickable {
         x: (screen.width - width) / 2
         y: Theme.spacingHuge
         width: screen.pageWidth
-        spacing: Theme.spacingHuge - 4
+        spacing: Theme.spacingHuge
 
         DashboardHeader {
             width: parent.width

@@ -40,6 +40,10 @@ QString DashboardViewModel::capacityText() const
         .arg(QString::fromStdString(formattedBytes(m_freeBytes)), QString::fromStdString(formattedBytes(m_totalBytes)));
 }
 
+QString DashboardViewModel::usedText() const { return QString::fromStdString(formattedBytes(usedBytes())); }
+
+QString DashboardViewModel::freeText() const { return QString::fromStdString(formattedBytes(m_freeBytes)); }
+
 QQmlListProperty<ModuleViewModel> DashboardViewModel::modules() { return { this, &m_modules }; }
 
 void DashboardViewModel::measure()

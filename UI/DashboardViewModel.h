@@ -31,6 +31,9 @@ class DashboardViewModel : public QObject {
     Q_PROPERTY(bool nearlyFull READ isNearlyFull NOTIFY measured FINAL)
     /// "<free size> free of <total size>".
     Q_PROPERTY(QString capacityText READ capacityText NOTIFY measured FINAL)
+    /// The two parts of the bar, formatted.
+    Q_PROPERTY(QString usedText READ usedText NOTIFY measured FINAL)
+    Q_PROPERTY(QString freeText READ freeText NOTIFY measured FINAL)
     Q_PROPERTY(QQmlListProperty<Korvane::ModuleViewModel> modules READ modules CONSTANT FINAL)
 
 public:
@@ -50,6 +53,8 @@ public:
     double usedFraction() const;
     bool isNearlyFull() const;
     QString capacityText() const;
+    QString usedText() const;
+    QString freeText() const;
     QQmlListProperty<ModuleViewModel> modules();
 
     /// Measures the startup disk in the background.

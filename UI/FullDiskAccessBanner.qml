@@ -20,7 +20,7 @@ Item {
 
     Rectangle {
         anchors.fill: parent
-        color: Qt.alpha(Theme.orange, Theme.dark ? 0.16 : 0.14)
+        color: Theme.warningFill
     }
     Separator {
         anchors.bottom: parent.bottom
@@ -38,12 +38,12 @@ Item {
 
         Symbol {
             name: "lock.shield.fill"
-            size: 28
+            size: Metrics.symbolLarge
             color: Theme.orange
         }
         ColumnLayout {
             Layout.fillWidth: true
-            spacing: 2
+            spacing: Theme.spacingHair
 
             Label {
                 Layout.fillWidth: true

@@ -15,8 +15,8 @@ Window {
     required property SettingsViewModel viewModel
 
     title: qsTr("Settings")
-    width: 520
-    height: 344
+    width: Metrics.settingsWidth
+    height: Metrics.settingsHeight
     minimumWidth: width
     maximumWidth: width
     minimumHeight: height

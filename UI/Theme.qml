@@ -27,9 +27,9 @@ QtObject {
 
     // Text. Each reaches 4.5:1 on every background below.
     readonly property color label: dark ? "#f5f5f7" : "#1d1d1f"
-    readonly property color secondaryLabel: highContrast ? label : dark ? "#bcbcc4" : "#515157"
-    readonly property color tertiaryLabel: highContrast ? label : dark ? "#ababb3" : "#5e5e64"
-    readonly property color linkLabel: dark ? "#5eb0ff" : "#005ecb"
+    readonly property color secondaryLabel: highContrast ? label : dark ? "#cacad2" : "#515157"
+    readonly property color tertiaryLabel: highContrast ? label : dark ? "#bcbcc4" : "#58585e"
+    readonly property color linkLabel: dark ? "#78beff" : "#0050b0"
     readonly property color warningLabel: dark ? "#ffb340" : "#8f4700"
     readonly property color errorLabel: dark ? "#ff8a80" : "#b3140a"
     readonly property color successLabel: dark ? "#4cd970" : "#1a6b2f"
@@ -47,14 +47,14 @@ QtObject {
                                             : (highContrast ? "#66000000" : "#1a000000")
     readonly property color controlBorder: dark ? (highContrast ? "#b3ffffff" : "#33ffffff")
                                                 : (highContrast ? "#b3000000" : "#2e000000")
-    readonly property color checkBorder: highContrast ? label : dark ? "#80ffffff" : "#73000000"
+    readonly property color checkBorder: highContrast ? label : dark ? "#8cffffff" : "#8c000000"
     readonly property color controlFill: dark ? "#1fffffff" : "#ffffff"
-    readonly property color hoverFill: dark ? "#14ffffff" : "#0d000000"
-    readonly property color pressedFill: dark ? "#24ffffff" : "#1a000000"
-    readonly property color selectionFill: dark ? "#2effffff" : "#1a000000"
+    readonly property color hoverFill: dark ? "#12ffffff" : "#0d000000"
+    readonly property color pressedFill: dark ? "#1affffff" : "#1a000000"
+    readonly property color selectionFill: dark ? "#1fffffff" : "#1a000000"
     readonly property color trackFill: dark ? "#26ffffff" : "#1a000000"
     readonly property color capsuleFill: dark ? "#1fffffff" : "#12000000"
-    readonly property color focusRing: Qt.alpha(blue, dark ? 0.75 : 0.6)
+    readonly property color focusRing: dark ? "#3d9dff" : blue
     readonly property color cardBorder: dark ? "#1affffff" : "#12000000"
     readonly property color shadow: dark ? "#66000000" : "#24000000"
 
@@ -67,14 +67,17 @@ QtObject {
         return dark ? "#3a3a40" : Qt.darker(accent, 1.4);
     }
 
+    /// The same of a mark in its box and of a switch, which stand out from what they lie on.
+    readonly property color checkedFill: dark ? "#1a7af0" : prominentFill
+
     // States of such fills, laid over them.
-    readonly property color filledHoverFill: "#1affffff"
-    readonly property color filledPressedFill: "#2e000000"
+    readonly property color filledHoverFill: "#1a000000"
+    readonly property color filledPressedFill: "#33000000"
 
     // A switch.
-    readonly property color switchOffFill: dark ? "#4dffffff" : "#8a8a90"
+    readonly property color switchOffFill: dark ? "#66ffffff" : "#808086"
     readonly property color knob: "#ffffff"
-    readonly property color pressedKnob: "#ececf0"
+    readonly property color pressedKnob: "#f2f2f5"
 
     /// From cyan to blue.
     readonly property var heroGradient: [cyan, blue]
@@ -82,6 +85,21 @@ QtObject {
     readonly property var windowBackground: [Qt.alpha(blue, 0.07), "transparent", Qt.alpha(purple, 0.06)]
     /// The translucent material of cards and lists.
     readonly property color cardBackground: dark ? "#12ffffff" : "#bfffffff"
+    /// The same, opaque: for what lies over other rows of a card.
+    readonly property color card: Qt.tint(window, cardBackground)
+    readonly property color warningFill: Qt.alpha(orange, dark ? 0.16 : 0.14)
+
+    /// The light around a tile.
+    function glow(accent: color): color {
+        return Qt.alpha(accent, 0.35);
+    }
+    /// A ring that spreads from a symbol, and its line, as strong as it still is: from 1 to 0.
+    function pulseFill(accent: color, strength: real): color {
+        return Qt.alpha(accent, 0.16 * strength);
+    }
+    function pulseLine(accent: color, strength: real): color {
+        return Qt.alpha(accent, 0.55 * strength);
+    }
 
     /// From the colour to the same colour at 55 percent.
     function accentGradient(colour: color): var {
@@ -106,8 +124,15 @@ QtObject {
         }
     }
 
+    /// The colour of a category among others, counted from 0; gray for those that have none of their own.
+    function category(shade: int): color {
+        const shades = [blue, orange, purple, green, pink, teal, indigo];
+        return shade < 0 ? gray : shades[shade % shades.length];
+    }
+
     // Type, sizes in pixels.
     readonly property string fontFamily: Appearance.fontFamily
+    readonly property int figure: 44
     readonly property int largeTitle: 28
     readonly property int title: 22
     readonly property int title2: 18
@@ -115,8 +140,12 @@ QtObject {
     readonly property int body: 14
     readonly property int callout: 13
     readonly property int caption: 12
+    readonly property int lineHeight: 20
+    readonly property real titleTracking: -0.3
+    readonly property real figureTracking: -1
 
-    // Spacing, in steps of a grid of eight.
+    // Spacing, in steps of a grid of eight, and halves of it within a control.
+    readonly property int spacingHair: 2
     readonly property int spacingTiny: 4
     readonly property int spacing: 8
     readonly property int spacingMedium: 12
@@ -125,15 +154,39 @@ QtObject {
     readonly property int pageMargin: 32
 
     // Shapes.
-    readonly property int controlHeight: 32
-    readonly property int largeControlHeight: 44
+    readonly property int hairline: 1
+    readonly property int radiusTiny: 4
     readonly property int radiusSmall: 6
     readonly property int radius: 8
     readonly property int radiusLarge: 12
     readonly property int radiusCard: 16
+    readonly property int tileRadius: 18
+    /// Parts of a tile's size: its corner, its symbol.
+    readonly property real tileRounding: 0.28
+    readonly property real tileSymbol: 0.54
+    readonly property int cardShadow: 12
+    readonly property int dialogShadow: 24
+    readonly property int tileGlow: 16
+    readonly property int heroGlow: 28
+
+    // The keyboard's place: the ring around a control, and the thinner one within a row.
+    readonly property int focusRingWidth: 3
+    readonly property int focusRingGap: 2
+    readonly property int rowRing: 2
+
+    // How much is left of what is disabled, at rest, or the oldest of a spinner's spokes.
+    readonly property real disabledOpacity: 0.45
+    readonly property real restingOpacity: 0.45
+    readonly property real faintOpacity: 0.15
 
     // Motion, in milliseconds; none when the desktop asks for none.
     readonly property bool animated: !Appearance.reducedMotion
     readonly property int durationShort: animated ? 150 : 0
     readonly property int durationLong: animated ? 250 : 0
+    readonly property real enteringScale: 0.96
+    readonly property int hoverGrowth: 3
+    /// The beat of what is under way, which is no transition.
+    readonly property int pulsePeriod: 2400
+    readonly property int spinnerStep: 80
+    readonly property int toolTipDelay: 600
 }

@@ -3,6 +3,7 @@
 
 #include "Tests/Structure/Rules.h"
 
+#include "Tests/Structure/Design.h"
 #include "Tests/Structure/Includes.h"
 
 #include <algorithm>
@@ -217,7 +218,8 @@ Complaints check(const SourceText& file)
 {
     Complaints all;
     for (const auto& rule :
-        { checkFloors, checkPurity, checkQml, checkPlatformSeam, checkRemoving, checkLicence, checkLengths }) {
+        { checkFloors, checkPurity, checkQml, checkPlatformSeam, checkRemoving, checkLicence, checkLengths,
+             checkDesign }) {
         const Complaints some = rule(file);
         all.insert(all.end(), some.begin(), some.end());
     }

@@ -9,6 +9,9 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
+#include <QXmlStreamReader>
+
+#include <algorithm>
 
 using namespace Korvane;
 
@@ -18,6 +21,9 @@ class SymbolTest : public QObject {
 private Q_SLOTS:
     void everyNameThatScreensUseIsDrawn();
     void everyModuleHasASymbol();
+    void theFamilyIsComplete();
+    void allAreDrawnOnOneGridWithOneStroke();
+    void allAreSharpAtEveryDensity();
     void everySymbolHasInkAndKeepsItsMargin();
     void takesTheColour();
     void whiteBecomesAHole();
@@ -52,6 +58,69 @@ void SymbolTest::everyModuleHasASymbol()
     for (const CleanerModule module : allCleanerModules) {
         const std::string_view name = systemImage(module);
         QVERIFY(symbolNames().contains(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()))));
+    }
+}
+
+void SymbolTest::theFamilyIsComplete()
+{
+    for (const char* name : { "arrow.clockwise", "cable.connector", "checkmark.circle.fill", "doc.on.doc.fill",
+             "exclamationmark.shield", "exclamationmark.triangle.fill", "externaldrive.badge.timemachine",
+             "externaldrive.fill.badge.exclamationmark", "folder.fill", "gearshape", "info.circle",
+             "internaldrive.fill", "iphone.gen3", "iphone.slash", "lock.shield.fill", "macwindow", "magnifyingglass",
+             "magnifyingglass.circle", "memorychip", "network", "photo.fill", "sparkles", "speedometer", "trash",
+             "trash.circle.fill", "video.fill", "xmark.bin.fill" })
+        QVERIFY2(symbolNames().contains(QLatin1String(name)), name);
+}
+
+void SymbolTest::allAreDrawnOnOneGridWithOneStroke()
+{
+    const QLatin1String stroke("1.75");
+    for (const QString& name : symbolNames()) {
+        QFile file(QStringLiteral(":/qt/qml/Korvane/UI/Symbols/%1.svg").arg(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QXmlStreamReader drawing(&file);
+        while (!drawing.atEnd()) {
+            if (drawing.readNext() != QXmlStreamReader::StartElement)
+                continue;
+            const QXmlStreamAttributes look = drawing.attributes();
+            if (drawing.name() == QLatin1String("svg"))
+                QCOMPARE(look.value("viewBox").toString(), QStringLiteral("0 0 24 24"));
+            // Black is the tint, white a hole.
+            for (const char* paint : { "fill", "stroke" })
+                QVERIFY2(QStringList({ "", "none", "#000", "#fff" }).contains(look.value(paint).toString()),
+                    qPrintable(name));
+            if (!look.hasAttribute("stroke"))
+                continue;
+            QCOMPARE(look.value("stroke-linecap").toString(), QStringLiteral("round"));
+            QCOMPARE(look.value("stroke-linejoin").toString(), QStringLiteral("round"));
+            // Or the gap around a line that crosses others.
+            if (look.value("stroke-width") != stroke)
+                QVERIFY2(look.value("stroke") == QLatin1String("#fff") && look.value("stroke-width").toDouble() > 4,
+                    qPrintable(name));
+        }
+        QVERIFY2(!drawing.hasError(), qPrintable(name + drawing.errorString()));
+    }
+}
+
+// Each density has a picture of its own, which no other is enlarged from, with ink as dark as the colour.
+void SymbolTest::allAreSharpAtEveryDensity()
+{
+    for (const QString& name : symbolNames()) {
+        for (const int pixels : { 16, 32 }) {
+            const QImage image = symbolImage(name, pixels, Qt::black);
+            QCOMPARE(image.width(), pixels);
+            int strongest = 0;
+            for (int y = 0; y < pixels; ++y) {
+                for (int x = 0; x < pixels; ++x)
+                    strongest = std::max(strongest, qAlpha(image.pixel(x, y)));
+            }
+            QVERIFY2(strongest >= (pixels == 16 ? 140 : 240),
+                qPrintable(QStringLiteral("%1 at %2: %3").arg(name).arg(pixels).arg(strongest)));
+        }
+        const QImage enlarged
+            = symbolImage(name, 16, Qt::black).scaled(32, 32, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        QVERIFY2(symbolImage(name, 32, Qt::black) != enlarged.convertToFormat(QImage::Format_ARGB32_Premultiplied),
+            qPrintable(name));
     }
 }
 

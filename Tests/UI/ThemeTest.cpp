@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "Tests/UI/Support/Contrast.h"
 #include "UI/Appearance.h"
 
 #include <QColor>
@@ -16,42 +17,11 @@
 
 using namespace Korvane;
 
-namespace {
-
-// Relative luminance and contrast as the Web Content Accessibility Guidelines 2.1 define them.
-double luminance(const QColor& color)
-{
-    const auto linear = [](double channel) {
-        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other)
-{
-    const double brighter = std::max(luminance(one), luminance(other));
-    const double darker = std::min(luminance(one), luminance(other));
-    return (brighter + 0.05) / (darker + 0.05);
-}
-
-QColor over(const QColor& top, const QColor& bottom)
-{
-    const auto mixed = [&](float above, float below) { return above * top.alphaF() + below * (1 - top.alphaF()); };
-    return QColor::fromRgbF(
-        mixed(top.redF(), bottom.redF()), mixed(top.greenF(), bottom.greenF()), mixed(top.blueF(), bottom.blueF()));
-}
-
-} // namespace
-
 class ThemeTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void textCanBeReadOnEveryBackground_data();
-    void textCanBeReadOnEveryBackground();
-    void whiteCanBeReadOnFilledButtons_data();
-    void whiteCanBeReadOnFilledButtons();
     void theAccentGradientEndsAt55Percent();
     void theHeroGradientRunsFromCyanToBlue();
     void theWindowIsTintedFaintly();
@@ -85,52 +55,6 @@ void ThemeTest::init()
     m_appearance->setDark(false);
     m_appearance->setReducedMotion(false);
     m_appearance->setHighContrast(false);
-}
-
-void ThemeTest::textCanBeReadOnEveryBackground_data()
-{
-    QTest::addColumn<bool>("dark");
-    QTest::addColumn<QByteArray>("text");
-    for (const bool dark : { false, true }) {
-        for (const char* text :
-            { "label", "secondaryLabel", "tertiaryLabel", "linkLabel", "warningLabel", "errorLabel", "successLabel" })
-            QTest::addRow("%s %s", dark ? "dark" : "light", text) << dark << QByteArray(text);
-    }
-}
-
-void ThemeTest::textCanBeReadOnEveryBackground()
-{
-    QFETCH(const bool, dark);
-    QFETCH(const QByteArray, text);
-    m_appearance->setDark(dark);
-    const QColor window = color("window");
-    const QColor sidebar = color("sidebar");
-    const QVariantList tint = member("windowBackground").toList();
-    const QColor card = over(color("cardBackground"), window);
-    const QList<QColor> backgrounds{ window, sidebar, color("elevated"), color("field"), card,
-        over(tint.first().value<QColor>(), window), over(tint.last().value<QColor>(), window),
-        over(color("hoverFill"), card), over(color("hoverFill"), sidebar) };
-    for (const QColor& background : backgrounds) {
-        const double reached = contrast(color(text), background);
-        QVERIFY2(reached >= 4.5, qPrintable(QStringLiteral("%1 on %2").arg(reached).arg(background.name())));
-    }
-    QVERIFY(contrast(color("label"), over(color("selectionFill"), sidebar)) >= 4.5);
-}
-
-void ThemeTest::whiteCanBeReadOnFilledButtons_data()
-{
-    QTest::addColumn<bool>("dark");
-    QTest::newRow("light") << false;
-    QTest::newRow("dark") << true;
-}
-
-void ThemeTest::whiteCanBeReadOnFilledButtons()
-{
-    QFETCH(const bool, dark);
-    m_appearance->setDark(dark);
-    QVERIFY(contrast(color("onAccent"), color("prominentFill")) >= 4.5);
-    QVERIFY(contrast(color("onAccent"), color("destructiveFill")) >= 4.5);
-    QVERIFY(contrast(color("onAccent"), color("greenFill")) >= 4.5);
 }
 
 void ThemeTest::theAccentGradientEndsAt55Percent()

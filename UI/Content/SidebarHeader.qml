@@ -12,21 +12,21 @@ Item {
 
     signal settingsRequested
 
-    implicitHeight: 36
+    implicitHeight: Metrics.sidebarRowHeight
 
     IconTile {
         id: mark
 
         anchors.left: parent.left
-        anchors.leftMargin: 8
+        anchors.leftMargin: Theme.spacing
         anchors.verticalCenter: parent.verticalCenter
-        size: 28
+        size: Metrics.symbolLarge
         symbol: "sparkles"
         gradient: Theme.heroGradient
     }
     Label {
         anchors.left: mark.right
-        anchors.leftMargin: 10
+        anchors.leftMargin: Theme.spacing
         anchors.verticalCenter: parent.verticalCenter
         style: Label.Title2
         text: qsTr("Korvane")
@@ -42,7 +42,7 @@ Item {
         symbol: "ellipsis"
         Accessible.name: qsTr("Application menu")
         onClicked: menu.popup(menuButton, menuButton.mirrored ? menuButton.width - menu.width : 0,
-            menuButton.height + 4)
+            menuButton.height + Theme.spacingTiny)
 
         Menu {
             id: menu

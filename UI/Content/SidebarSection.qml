@@ -16,12 +16,12 @@ Column {
     required property var modules
 
     topPadding: Theme.spacingLarge
-    spacing: 2
+    spacing: Theme.spacingHair
 
     SectionHeader {
         width: section.width
-        leftPadding: 10
-        rightPadding: 10
+        leftPadding: Theme.spacing
+        rightPadding: Theme.spacing
         bottomPadding: Theme.spacingTiny
         text: section.title
     }

@@ -26,13 +26,14 @@ Item {
             id: spoke
 
             required property int index
+            readonly property real strength: ((spoke.index + 12 - steps.current) % 12) / 11
 
             width: Math.max(2, spinner.width / 12)
             height: spinner.height * 0.28
             radius: width / 2
             x: (spinner.width - width) / 2
             color: spinner.color
-            opacity: 0.15 + 0.85 * ((spoke.index + 12 - steps.current) % 12) / 11
+            opacity: Theme.faintOpacity + (1 - Theme.faintOpacity) * spoke.strength
             transformOrigin: Item.Top
             transform: Rotation {
                 origin.x: spinner.width / 24
@@ -47,10 +48,9 @@ Item {
 
         property int current: 0
 
-        // Under reduced motion a slow step still tells that the work goes on.
-        interval: Theme.animated ? 80 : 500
+        interval: Theme.spinnerStep
         repeat: true
-        running: spinner.running && spinner.visible
+        running: Theme.animated && spinner.running && spinner.visible
         onTriggered: steps.current = (steps.current + 1) % 12
     }
 }

@@ -41,11 +41,11 @@ T.Button {
         }
     }
 
-    implicitHeight: button.large ? Theme.largeControlHeight : Theme.controlHeight
+    implicitHeight: button.large ? Metrics.largeControlHeight : Metrics.controlHeight
     implicitWidth: Math.max(button.implicitHeight, implicitContentWidth + leftPadding + rightPadding)
-    leftPadding: button.text === "" ? 0 : button.large ? 24 : 14
+    leftPadding: button.text === "" ? 0 : button.large ? Theme.spacingHuge : Theme.spacingMedium
     rightPadding: leftPadding
-    opacity: button.enabled ? 1 : 0.45
+    opacity: button.enabled ? 1 : Theme.disabledOpacity
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     font.family: Theme.fontFamily
@@ -68,7 +68,7 @@ T.Button {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: button.symbol !== ""
                 name: button.symbol
-                size: button.large ? 20 : 16
+                size: button.large ? Metrics.symbolMedium : Metrics.symbolSmall
                 color: button.ink
             }
             Text {
@@ -86,7 +86,7 @@ T.Button {
     background: Rectangle {
         radius: button.large ? Theme.radiusLarge : Theme.radius
         color: button.fill
-        border.width: button.kind === Button.Plain ? 1 : 0
+        border.width: button.kind === Button.Plain ? Theme.hairline : 0
         border.color: Theme.controlBorder
 
         Rectangle {
@@ -104,7 +104,7 @@ T.Button {
         }
         FocusRing {
             shown: button.visualFocus
-            gap: button.filled ? 2 : 0
+            gap: button.filled ? Theme.focusRingGap : 0
             around: parent.radius
         }
     }

@@ -14,16 +14,11 @@ Item {
     property real radius: Theme.radiusCard
     property bool shadow: true
 
-    SoftShadow {
+    DropShadow {
         // Even one that is not shown would be painted at its full size.
         anchors.fill: card.shadow ? surface : undefined
-        anchors.margins: -12
-        anchors.topMargin: -9
-        anchors.bottomMargin: -15
         visible: card.shadow
         radius: card.radius
-        blur: 12
-        color: Theme.shadow
     }
     // The material is translucent: without a base of its own the shadow would show through it.
     Rectangle {
@@ -38,7 +33,7 @@ Item {
         anchors.fill: parent
         radius: card.radius
         color: Theme.cardBackground
-        border.width: 1
+        border.width: Theme.hairline
         border.color: Theme.cardBorder
     }
 }

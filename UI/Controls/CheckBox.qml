@@ -14,7 +14,7 @@ T.CheckBox {
     implicitWidth: indicator.width + (control.text === "" ? 0 : control.spacing + implicitContentWidth)
     implicitHeight: Math.max(24, implicitContentHeight)
     spacing: Theme.spacing
-    opacity: control.enabled ? 1 : 0.45
+    opacity: control.enabled ? 1 : Theme.disabledOpacity
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     font.family: Theme.fontFamily

@@ -16,11 +16,11 @@ Rectangle {
 
     readonly property bool on: box.checkState !== Qt.Unchecked
 
-    width: 18
-    height: 18
-    radius: 5
-    color: box.on ? Theme.prominentFill : Theme.controlFill
-    border.width: box.on ? 0 : 1
+    width: Metrics.checkBoxSize
+    height: Metrics.checkBoxSize
+    radius: Theme.radiusTiny
+    color: box.on ? Theme.checkedFill : Theme.controlFill
+    border.width: box.on ? 0 : Theme.hairline
     border.color: box.hovered ? Theme.secondaryLabel : Theme.checkBorder
 
     Rectangle {
@@ -31,7 +31,7 @@ Rectangle {
     }
     Symbol {
         anchors.centerIn: parent
-        size: 14
+        size: Metrics.checkBoxSize
         name: box.checkState === Qt.PartiallyChecked ? "minus" : "checkmark"
         color: Theme.onAccent
         visible: box.on

@@ -42,7 +42,7 @@ FocusScope {
             Layout.bottomMargin: Theme.spacing
             symbol: content.symbol
             accent: content.accent
-            size: 56
+            size: Metrics.dialogTile
         }
         Label {
             Layout.fillWidth: true

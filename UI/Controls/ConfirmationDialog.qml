@@ -31,7 +31,7 @@ T.Dialog {
     modal: true
     focus: true
     padding: Theme.spacingHuge
-    implicitWidth: 400
+    implicitWidth: Metrics.dialogWidth
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     closePolicy: T.Popup.CloseOnEscape
     onAboutToShow: dialog.answered = false
@@ -59,19 +59,16 @@ T.Dialog {
     }
 
     background: Item {
-        SoftShadow {
+        DropShadow {
             anchors.fill: parent
-            anchors.margins: -24
-            anchors.bottomMargin: -36
             radius: Theme.radiusCard
-            blur: 24
-            color: Theme.shadow
+            blur: Theme.dialogShadow
         }
         Rectangle {
             anchors.fill: parent
             radius: Theme.radiusCard
             color: Theme.elevated
-            border.width: 1
+            border.width: Theme.hairline
             border.color: Theme.controlBorder
         }
     }
@@ -89,7 +86,7 @@ T.Dialog {
         }
         NumberAnimation {
             property: "scale"
-            from: Theme.animated ? 0.96 : 1
+            from: Theme.animated ? Theme.enteringScale : 1
             to: 1
             duration: Theme.durationShort
             easing.type: Easing.OutCubic

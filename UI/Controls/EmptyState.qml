@@ -19,7 +19,7 @@ Column {
     Symbol {
         anchors.horizontalCenter: parent.horizontalCenter
         name: empty.symbol
-        size: 48
+        size: Metrics.emptySymbol
         color: Theme.tertiaryLabel
     }
     Label {

@@ -19,10 +19,10 @@ Rectangle {
     property real gap: 0
 
     anchors.fill: parent
-    anchors.margins: -3 - ring.gap
-    radius: ring.around + 3 + ring.gap
+    anchors.margins: -Theme.focusRingWidth - ring.gap
+    radius: ring.around + Theme.focusRingWidth + ring.gap
     color: "transparent"
-    border.width: 3
+    border.width: Theme.focusRingWidth
     border.color: Theme.focusRing
     visible: ring.shown
 }

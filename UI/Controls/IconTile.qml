@@ -15,8 +15,8 @@ Item {
     property color accent: Theme.blue
     /// The gradient of the fill; that of the accent until set.
     property var gradient: Theme.accentGradient(tile.accent)
-    property real size: 60
-    property real radius: Math.round(tile.size * 0.28)
+    property real size: Metrics.moduleTile
+    property real radius: Math.round(tile.size * Theme.tileRounding)
 
     implicitWidth: tile.size
     implicitHeight: tile.size
@@ -40,7 +40,7 @@ Item {
     Symbol {
         anchors.centerIn: fill
         name: tile.symbol
-        size: Math.round(tile.size * 0.54)
+        size: Math.round(tile.size * Theme.tileSymbol)
         color: Theme.onAccent
     }
 }

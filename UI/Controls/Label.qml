@@ -51,7 +51,7 @@ Text {
     font.pixelSize: label.pixels(label.style)
     font.weight: label.style <= Label.Title ? Font.Bold
         : label.style === Label.Title2 || label.style === Label.Headline ? Font.DemiBold : Font.Normal
-    font.letterSpacing: label.style <= Label.Title ? -0.3 : 0
+    font.letterSpacing: label.style <= Label.Title ? Theme.titleTracking : 0
 
     Accessible.role: Accessible.StaticText
     Accessible.name: label.text

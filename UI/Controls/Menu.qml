@@ -14,8 +14,8 @@ T.Menu {
 
     implicitWidth: Math.max(180, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    margins: 8
-    padding: 5
+    margins: Theme.spacing
+    padding: Theme.spacingTiny
     overlap: 1
     delegate: MenuItem { }
 
@@ -34,19 +34,15 @@ T.Menu {
     }
 
     background: Item {
-        SoftShadow {
+        DropShadow {
             anchors.fill: parent
-            anchors.margins: -12
-            anchors.bottomMargin: -16
             radius: Theme.radius
-            blur: 12
-            color: Theme.shadow
         }
         Rectangle {
             anchors.fill: parent
             radius: Theme.radius
             color: Theme.elevated
-            border.width: 1
+            border.width: Theme.hairline
             border.color: Theme.controlBorder
         }
     }

@@ -19,9 +19,9 @@ T.MenuItem {
 
     implicitWidth: Math.max(160, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: 30
-    leftPadding: 10
-    rightPadding: 10
-    opacity: item.enabled ? 1 : 0.45
+    leftPadding: Theme.spacing
+    rightPadding: Theme.spacing
+    opacity: item.enabled ? 1 : Theme.disabledOpacity
     hoverEnabled: true
     font.family: Theme.fontFamily
     font.pixelSize: Theme.body
@@ -35,7 +35,7 @@ T.MenuItem {
         Symbol {
             visible: item.symbol !== ""
             name: item.symbol
-            size: 16
+            size: Metrics.symbolSmall
             color: item.ink
         }
         Text {
@@ -60,7 +60,7 @@ T.MenuItem {
     }
 
     background: Rectangle {
-        radius: Theme.radiusSmall - 1
+        radius: Theme.radiusTiny
         color: item.highlighted ? Theme.prominentFill : "transparent"
     }
 }

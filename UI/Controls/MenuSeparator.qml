@@ -10,8 +10,8 @@ import Korvane.UI
 /// A line between groups of commands in a `Menu`.
 T.MenuSeparator {
     implicitWidth: 100
-    implicitHeight: 11
-    padding: 5
+    implicitHeight: 2 * padding + Theme.hairline
+    padding: Theme.spacingTiny
 
     contentItem: Separator { }
 }

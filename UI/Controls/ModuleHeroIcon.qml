@@ -17,19 +17,16 @@ Item {
     implicitHeight: tile.height
     Accessible.ignored: true
 
-    SoftShadow {
+    DropShadow {
         anchors.fill: tile
-        anchors.margins: -28
-        anchors.topMargin: -18
-        anchors.bottomMargin: -38
         radius: tile.radius
-        blur: 28
-        color: Qt.alpha(hero.accent, Theme.dark ? 0.35 : 0.4)
+        blur: Theme.heroGlow
+        color: Theme.glow(hero.accent)
     }
     IconTile {
         id: tile
 
-        size: 112
+        size: Metrics.heroTile
         symbol: hero.symbol
         accent: hero.accent
     }

@@ -19,7 +19,7 @@ FocusScope {
     Column {
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -Theme.spacingHuge
-        width: Math.min(parent.width - 2 * Theme.pageMargin, 520)
+        width: Math.min(parent.width - 2 * Theme.pageMargin, Metrics.textWidth)
         spacing: Theme.spacing
 
         ModuleHeroIcon {

@@ -14,7 +14,7 @@ T.ProgressBar {
     property color tint: Theme.blue
 
     implicitWidth: 200
-    implicitHeight: 8
+    implicitHeight: Metrics.barHeight
     Accessible.role: Accessible.ProgressBar
 
     background: Rectangle {

@@ -11,19 +11,19 @@ import Korvane.UI
 T.ScrollBar {
     id: control
 
-    implicitWidth: 12
-    implicitHeight: 12
+    implicitWidth: Metrics.scrollBarWidth
+    implicitHeight: Metrics.scrollBarWidth
     minimumSize: 0.08
-    padding: 3
+    padding: (Metrics.scrollBarWidth - Metrics.scrollBarThickness) / 2
     visible: control.policy !== T.ScrollBar.AlwaysOff && control.size < 1
     hoverEnabled: true
 
     contentItem: Rectangle {
-        implicitWidth: 6
-        implicitHeight: 6
-        radius: 3
+        implicitWidth: Metrics.scrollBarThickness
+        implicitHeight: Metrics.scrollBarThickness
+        radius: Metrics.scrollBarThickness / 2
         color: Theme.tertiaryLabel
-        opacity: control.pressed || control.hovered ? 0.9 : 0.45
+        opacity: control.pressed || control.hovered ? 1 : Theme.restingOpacity
 
         Behavior on opacity {
             NumberAnimation {

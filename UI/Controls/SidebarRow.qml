@@ -16,7 +16,7 @@ T.AbstractButton {
     property bool selected: false
 
     implicitWidth: 200
-    implicitHeight: 36
+    implicitHeight: Metrics.sidebarRowHeight
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     Keys.onReturnPressed: row.clicked()
@@ -29,16 +29,16 @@ T.AbstractButton {
     contentItem: Item {
         Symbol {
             anchors.left: parent.left
-            anchors.leftMargin: 10
+            anchors.leftMargin: Theme.spacing
             anchors.verticalCenter: parent.verticalCenter
             name: row.symbol
-            size: 20
+            size: Metrics.symbolMedium
             color: row.accent
         }
         Label {
             anchors.fill: parent
-            anchors.leftMargin: 40
-            anchors.rightMargin: 10
+            anchors.leftMargin: Metrics.sidebarTextInset
+            anchors.rightMargin: Theme.spacing
             verticalAlignment: Text.AlignVCenter
             text: row.text
             // A long name in another language becomes a little smaller before it is cut.

@@ -11,9 +11,9 @@ import Korvane.UI
 T.Switch {
     id: control
 
-    implicitWidth: implicitContentWidth + Theme.spacingLarge + 40
-    implicitHeight: Math.max(Theme.controlHeight, implicitContentHeight)
-    opacity: control.enabled ? 1 : 0.45
+    implicitWidth: implicitContentWidth + Theme.spacingLarge + Metrics.switchWidth
+    implicitHeight: Math.max(Metrics.controlHeight, implicitContentHeight)
+    opacity: control.enabled ? 1 : Theme.disabledOpacity
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     font.family: Theme.fontFamily
@@ -23,17 +23,17 @@ T.Switch {
     indicator: Rectangle {
         x: control.mirrored ? 0 : control.width - width
         y: (control.height - height) / 2
-        width: 40
-        height: 24
-        radius: 12
-        color: control.checked ? Theme.prominentFill : Theme.switchOffFill
+        width: Metrics.switchWidth
+        height: Metrics.switchHeight
+        radius: height / 2
+        color: control.checked ? Theme.checkedFill : Theme.switchOffFill
 
         Rectangle {
-            x: 2 + control.visualPosition * 16
-            y: 2
-            width: 20
-            height: 20
-            radius: 10
+            x: Metrics.switchGap + control.visualPosition * (Metrics.switchWidth - Metrics.switchHeight)
+            y: Metrics.switchGap
+            width: Metrics.switchHeight - 2 * Metrics.switchGap
+            height: width
+            radius: width / 2
             color: control.down ? Theme.pressedKnob : Theme.knob
 
             Behavior on x {
@@ -52,8 +52,8 @@ T.Switch {
     }
 
     contentItem: Text {
-        rightPadding: control.mirrored ? 0 : 40 + Theme.spacingLarge
-        leftPadding: control.mirrored ? 40 + Theme.spacingLarge : 0
+        rightPadding: control.mirrored ? 0 : Metrics.switchWidth + Theme.spacingLarge
+        leftPadding: control.mirrored ? Metrics.switchWidth + Theme.spacingLarge : 0
         text: control.text
         textFormat: Text.PlainText
         font: control.font

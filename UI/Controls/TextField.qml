@@ -15,12 +15,12 @@ T.TextField {
     property string symbol: ""
 
     readonly property bool mirrored: field.LayoutMirroring.enabled
-    readonly property real startPadding: field.symbol === "" ? 10 : 32
+    readonly property real startPadding: field.symbol === "" ? Theme.spacing : Metrics.controlHeight
 
     implicitWidth: 220
-    implicitHeight: Theme.controlHeight
-    leftPadding: field.mirrored ? 10 : field.startPadding
-    rightPadding: field.mirrored ? field.startPadding : 10
+    implicitHeight: Metrics.controlHeight
+    leftPadding: field.mirrored ? Theme.spacing : field.startPadding
+    rightPadding: field.mirrored ? field.startPadding : Theme.spacing
     horizontalAlignment: TextInput.AlignLeft
     verticalAlignment: TextInput.AlignVCenter
     font.family: Theme.fontFamily
@@ -30,7 +30,7 @@ T.TextField {
     selectionColor: Theme.prominentFill
     selectedTextColor: Theme.onAccent
     selectByMouse: true
-    opacity: field.enabled ? 1 : 0.45
+    opacity: field.enabled ? 1 : Theme.disabledOpacity
     Accessible.name: field.placeholderText
 
     Text {
@@ -48,19 +48,19 @@ T.TextField {
     }
     Symbol {
         anchors.left: parent.left
-        anchors.leftMargin: 10
+        anchors.leftMargin: Theme.spacing
         anchors.verticalCenter: parent.verticalCenter
         visible: field.symbol !== ""
         name: field.symbol
-        size: 16
+        size: Metrics.symbolSmall
         color: Theme.tertiaryLabel
     }
 
     background: Rectangle {
         radius: Theme.radius
         color: Theme.field
-        border.width: 1
-        border.color: field.hovered ? Theme.tertiaryLabel : Theme.controlBorder
+        border.width: Theme.hairline
+        border.color: field.hovered ? Theme.secondaryLabel : Theme.checkBorder
 
         FocusRing {
             shown: field.activeFocus

@@ -20,7 +20,7 @@ Item {
         id: hover
     }
     Timer {
-        interval: 600
+        interval: Theme.toolTipDelay
         running: hover.hovered && area.text !== ""
         onTriggered: area.bubble = bubbleComponent.createObject(area) as T.ToolTip
     }
@@ -41,12 +41,12 @@ Item {
             parent: area
             visible: true
             x: Math.max(0, hover.point.position.x)
-            y: area.height + 6
-            margins: 8
-            padding: 8
+            y: area.height + Theme.spacing
+            margins: Theme.spacing
+            padding: Theme.spacing
             text: area.text
-            implicitWidth: Math.min(480, implicitContentWidth + 16)
-            implicitHeight: implicitContentHeight + 16
+            implicitWidth: Math.min(Metrics.toolTipWidth, implicitContentWidth + 2 * padding)
+            implicitHeight: implicitContentHeight + 2 * padding
             closePolicy: T.Popup.NoAutoClose
 
             contentItem: Text {
@@ -60,7 +60,7 @@ Item {
             background: Rectangle {
                 radius: Theme.radiusSmall
                 color: Theme.elevated
-                border.width: 1
+                border.width: Theme.hairline
                 border.color: Theme.controlBorder
             }
         }

@@ -25,13 +25,13 @@ T.TabButton {
     readonly property color ink: tab.checked ? Theme.linkLabel : Theme.secondaryLabel
 
     contentItem: Column {
-        topPadding: 7
-        spacing: 3
+        topPadding: Theme.spacing
+        spacing: Theme.spacingHair
 
         Symbol {
             anchors.horizontalCenter: parent.horizontalCenter
             name: tab.symbol
-            size: 22
+            size: Metrics.symbolMedium
             color: tab.ink
         }
         Text {

@@ -10,23 +10,20 @@ import Korvane.UI
 Item {
     id: header
 
-    implicitHeight: 64
+    implicitHeight: Metrics.greetingTile
 
-    SoftShadow {
+    DropShadow {
         anchors.fill: tile
-        anchors.margins: -16
-        anchors.topMargin: -10
-        anchors.bottomMargin: -22
         radius: tile.radius
-        blur: 16
-        color: Qt.alpha(Theme.blue, 0.35)
+        blur: Theme.tileGlow
+        color: Theme.glow(Theme.blue)
     }
     IconTile {
         id: tile
 
         anchors.left: parent.left
-        size: 64
-        radius: 18
+        size: Metrics.greetingTile
+        radius: Theme.tileRadius
         symbol: "sparkles"
         accent: Theme.blue
     }

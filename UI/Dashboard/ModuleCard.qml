@@ -14,14 +14,14 @@ T.AbstractButton {
     required property ModuleViewModel module
 
     /// How far the card has grown under the pointer, on each side; drawn larger, not scaled, so that it stays sharp.
-    property real growth: card.hovered ? 3 : 0
+    property real growth: card.hovered ? Theme.hoverGrowth : 0
 
-    implicitHeight: card.width < 250 ? 172 : 156
+    implicitHeight: Metrics.moduleCardHeight
     topInset: -card.growth
     bottomInset: -card.growth
     leftInset: -card.growth
     rightInset: -card.growth
-    padding: 20
+    padding: Theme.spacingLarge
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     text: card.module.title
@@ -40,7 +40,7 @@ T.AbstractButton {
     contentItem: Column {
         IconTile {
             anchors.left: parent.left
-            size: 60
+            size: Metrics.moduleTile
             symbol: card.module.symbol
             accent: Theme.accent(card.module.accent)
         }

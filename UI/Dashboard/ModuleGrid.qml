@@ -13,7 +13,7 @@ Grid {
     required property DashboardViewModel viewModel
 
     /// The narrowest card that still shows every text.
-    readonly property int minimumCardWidth: 196
+    readonly property int minimumCardWidth: Metrics.moduleCardWidth
     readonly property int fitting: Math.floor((grid.width + grid.spacing) / (grid.minimumCardWidth + grid.spacing))
 
     spacing: Theme.spacingLarge

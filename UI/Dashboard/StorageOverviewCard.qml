@@ -15,7 +15,7 @@ Card {
     /// Whether the card is on screen; the disk is measured whenever it comes there.
     required property bool shown
 
-    implicitHeight: 104
+    implicitHeight: Metrics.storageCardHeight
 
     onShownChanged: card.measure()
     Component.onCompleted: card.measure()
@@ -31,7 +31,7 @@ Card {
         spacing: Theme.spacingLarge
 
         IconTile {
-            size: 52
+            size: Metrics.moduleTile
             symbol: "internaldrive.fill"
             accent: Theme.blue
         }
@@ -53,11 +53,12 @@ Card {
                 Accessible.name: qsTr("Used space of the startup disk")
                 Accessible.description: card.viewModel.capacityText
             }
-            Label {
+            StorageCaption {
                 Layout.fillWidth: true
-                style: Label.Callout
-                color: Theme.secondaryLabel
+                tint: card.viewModel.nearlyFull ? Theme.orange : Theme.blue
                 text: card.viewModel.capacityText
+                used: card.viewModel.usedText
+                free: card.viewModel.freeText
             }
         }
         Button {

@@ -61,10 +61,10 @@ T.Control {
         }
         Rectangle {
             anchors.fill: parent
-            anchors.margins: 4
+            anchors.margins: Theme.spacingTiny
             radius: Theme.radius
             color: row.hovered ? Theme.hoverFill : "transparent"
-            border.width: row.activeFocus && (row.visualFocus || row.showsFocus) ? 2 : 0
+            border.width: row.activeFocus && (row.visualFocus || row.showsFocus) ? Theme.rowRing : 0
             border.color: Theme.focusRing
         }
     }

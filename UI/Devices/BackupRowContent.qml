@@ -22,7 +22,7 @@ Item {
         anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         name: "externaldrive.badge.timemachine"
-        size: 26
+        size: Metrics.symbolLarge
         color: Theme.blue
     }
     Column {
@@ -31,7 +31,7 @@ Item {
         anchors.right: sizeText.left
         anchors.rightMargin: Theme.spacingLarge
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
+        spacing: Theme.spacingHair
 
         Label {
             width: parent.width

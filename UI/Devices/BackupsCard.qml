@@ -66,11 +66,13 @@ SteadyScope {
             KeyboardList {
                 id: rows
 
+                readonly property int mostRows: 8
+
                 width: parent.width
                 // More than most people ever have are scrolled through.
-                height: Math.min(rows.count, 8) * rows.rowHeight
+                height: Math.min(rows.count, rows.mostRows) * rows.rowHeight
                 visible: !part.measuring && rows.count > 0
-                rowHeight: 60
+                rowHeight: Metrics.tallRowHeight
                 model: part.viewModel.backupRows
                 Accessible.name: qsTr("Backups")
 

@@ -27,13 +27,13 @@ Column {
     Card {
         width: parent.width
         height: part.found === IOSDeviceViewModel.Devices ? devices.height
-            : part.found === IOSDeviceViewModel.Unknown ? 84 : none.implicitHeight + 2 * Theme.spacingHuge
+            : part.found === IOSDeviceViewModel.Unknown ? Metrics.deviceRowHeight : none.implicitHeight + 2 * Theme.spacingHuge
         radius: Theme.radiusLarge
 
         BusySpinner {
             anchors.centerIn: parent
-            width: 24
-            height: 24
+            width: Metrics.spinnerSmall
+            height: Metrics.spinnerSmall
             color: Theme.secondaryLabel
             running: part.found === IOSDeviceViewModel.Unknown
         }
@@ -51,13 +51,14 @@ Column {
         ListView {
             id: devices
 
-            readonly property int rowHeight: 104
+            readonly property int mostRows: 4
+            readonly property int rowHeight: Metrics.deviceRowHeight
 
             width: parent.width
             // More than hang on cables at once are scrolled through.
-            height: Math.min(devices.count, 4) * devices.rowHeight
+            height: Math.min(devices.count, devices.mostRows) * devices.rowHeight
             visible: part.found === IOSDeviceViewModel.Devices
-            interactive: devices.count > 4
+            interactive: devices.count > devices.mostRows
             clip: true
             boundsBehavior: Flickable.StopAtBounds
             model: part.viewModel.deviceRows

@@ -27,11 +27,11 @@ Item {
         anchors.left: parent.left
         anchors.right: heading.refreshable ? refresh.left : parent.right
         anchors.rightMargin: Theme.spacing
-        spacing: 2
+        spacing: Theme.spacingHair
 
         Label {
             width: parent.width
-            height: Math.max(implicitHeight, heading.refreshable ? Theme.controlHeight : 0)
+            height: Math.max(implicitHeight, heading.refreshable ? Metrics.controlHeight : 0)
             verticalAlignment: Text.AlignVCenter
             style: Label.Title3
             font.weight: Font.DemiBold

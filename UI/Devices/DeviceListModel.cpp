@@ -39,6 +39,10 @@ QVariant DeviceListModel::data(const QModelIndex& index, int role) const
         return DeviceTexts::usedFraction(device);
     case StorageRole:
         return DeviceTexts::storage(device);
+    case UsedRole:
+        return DeviceTexts::size(device.usedBytes());
+    case FreeRole:
+        return DeviceTexts::size(device.freeBytes);
     default:
         return {};
     }
@@ -47,7 +51,7 @@ QVariant DeviceListModel::data(const QModelIndex& index, int role) const
 QHash<int, QByteArray> DeviceListModel::roleNames() const
 {
     return { { NameRole, "name" }, { VersionRole, "version" }, { UsedFractionRole, "usedFraction" },
-        { StorageRole, "storage" } };
+        { StorageRole, "storage" }, { UsedRole, "used" }, { FreeRole, "free" } };
 }
 
 } // namespace Korvane

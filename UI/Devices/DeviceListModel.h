@@ -24,6 +24,8 @@ public:
         VersionRole, ///< "iOS 17.4.1"
         UsedFractionRole, ///< Of its storage, from 0 to 1; 0 where the capacity is unknown.
         StorageRole, ///< The same in words; empty where the capacity is unknown.
+        UsedRole, ///< Formatted, as the next.
+        FreeRole,
     };
     Q_ENUM(Role)
 

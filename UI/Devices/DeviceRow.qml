@@ -15,6 +15,8 @@ Item {
     required property string version
     required property double usedFraction
     required property string storage
+    required property string used
+    required property string free
     required property color accent
 
     Accessible.role: Accessible.ListItem
@@ -33,7 +35,7 @@ Item {
         anchors.leftMargin: Theme.spacingHuge
         anchors.verticalCenter: parent.verticalCenter
         name: "iphone.gen3"
-        size: 40
+        size: Metrics.symbolHuge
         color: row.accent
     }
     Column {
@@ -46,7 +48,7 @@ Item {
 
         Column {
             width: parent.width
-            spacing: 2
+            spacing: Theme.spacingHair
 
             Label {
                 width: parent.width
@@ -71,13 +73,14 @@ Item {
             Accessible.name: qsTr("Used space of %1").arg(row.name)
             Accessible.description: row.storage
         }
-        Label {
+        StorageCaption {
             width: parent.width
             visible: row.storage !== ""
-            style: Label.Callout
-            color: Theme.secondaryLabel
+            tint: Theme.blue
             text: row.storage
-            Accessible.ignored: true
+            used: row.used
+            free: row.free
+            silent: true
         }
     }
 }

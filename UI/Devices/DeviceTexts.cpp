@@ -25,8 +25,6 @@ namespace {
 constexpr qsizetype longestName = 160;
 constexpr qsizetype longestMessage = 1024;
 
-QString bytes(std::int64_t count) { return QString::fromStdString(formattedBytes(count)); }
-
 /// Behind the last full stop, in small letters; empty where there is none, or nothing before it.
 std::string extension(std::string_view name)
 {
@@ -45,6 +43,8 @@ QString name(std::string_view bytes) { return shortened(bytes, longestName, Cut:
 
 QString message(const QString& text) { return shortened(text, longestMessage, Cut::End); }
 
+QString size(std::int64_t bytes) { return QString::fromStdString(formattedBytes(bytes)); }
+
 QString version(std::string_view productVersion)
 {
     return QCoreApplication::translate("Devices", "iOS %1").arg(name(productVersion));
@@ -62,7 +62,7 @@ QString storage(const IOSDevice& device)
     if (device.totalBytes <= 0)
         return {};
     return QCoreApplication::translate("Devices", "%1 used of %2 — %3 free")
-        .arg(bytes(device.usedBytes()), bytes(device.totalBytes), bytes(device.freeBytes));
+        .arg(size(device.usedBytes()), size(device.totalBytes), size(device.freeBytes));
 }
 
 QString detail(const IOSBackup& backup)

@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace Korvane::DeviceTexts {
@@ -18,6 +19,8 @@ namespace Korvane::DeviceTexts {
 QString name(std::string_view bytes);
 /// What went wrong, or has to be done, as it is shown; cut likewise.
 QString message(const QString& text);
+/// A number of bytes.
+QString size(std::int64_t bytes);
 /// "iOS " and the version of a device's system.
 QString version(std::string_view productVersion);
 /// The used part of a device's storage, from 0 to 1; 0 where the capacity is unknown.

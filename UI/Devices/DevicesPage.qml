@@ -33,7 +33,7 @@ Flickable {
         focus: true
         x: (page.width - width) / 2
         y: Theme.spacingHuge
-        width: Math.min(page.width - 2 * Theme.pageMargin, 1120)
+        width: Math.min(page.width - 2 * Theme.pageMargin, Metrics.pageWidth)
         height: column.implicitHeight
 
         Column {
@@ -99,7 +99,7 @@ Flickable {
                     MediaSection {
                         width: slot.width
                         shown: page.shown
-                        tallest: Math.max(320, page.height - 440)
+                        tallest: Math.max(Metrics.browserLeast, page.height - Metrics.browserRest)
                     }
                 }
             }

@@ -52,8 +52,8 @@ Column {
         spacing: Theme.spacing
 
         BusySpinner {
-            Layout.preferredWidth: 16
-            Layout.preferredHeight: 16
+            Layout.preferredWidth: Metrics.symbolSmall
+            Layout.preferredHeight: Metrics.symbolSmall
             color: Theme.secondaryLabel
             running: actions.viewModel.working
         }

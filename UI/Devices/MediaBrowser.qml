@@ -22,9 +22,9 @@ KeyboardList {
     }
 
     height: Math.min(list.count * list.rowHeight + list.topMargin + list.bottomMargin, list.tallest)
-    rowHeight: 40
+    rowHeight: Metrics.rowHeight
     // What can be done with what is ticked.
-    below: Theme.controlHeight + Theme.spacingMedium
+    below: Metrics.controlHeight + Theme.spacingMedium
     topMargin: Theme.spacingTiny
     bottomMargin: Theme.spacingTiny
     model: list.tree

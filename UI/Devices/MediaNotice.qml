@@ -21,7 +21,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         visible: notice.failed
         name: "exclamationmark.triangle.fill"
-        size: 20
+        size: Metrics.symbolMedium
         color: Theme.orange
     }
     Label {

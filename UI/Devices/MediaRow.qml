@@ -24,7 +24,7 @@ T.ItemDelegate {
     property bool showsFocus: false
 
     readonly property bool isFolder: row.file < 0
-    readonly property int startPadding: row.isFolder ? 76 : 112
+    readonly property int startPadding: row.isFolder ? Metrics.treeFolderInset : Metrics.treeFileInset
 
     /// The pointer has come down on the box of a folder.
     signal boxPressed
@@ -92,11 +92,11 @@ T.ItemDelegate {
             anchors.fill: parent
             anchors.leftMargin: Theme.spacing
             anchors.rightMargin: Theme.spacing
-            anchors.topMargin: 1
-            anchors.bottomMargin: 1
+            anchors.topMargin: Theme.hairline
+            anchors.bottomMargin: Theme.hairline
             radius: Theme.radius
             color: row.down ? Theme.pressedFill : row.hovered ? Theme.hoverFill : "transparent"
-            border.width: row.activeFocus && (row.visualFocus || row.showsFocus) ? 2 : 0
+            border.width: row.activeFocus && (row.visualFocus || row.showsFocus) ? Theme.rowRing : 0
             border.color: Theme.focusRing
         }
     }

@@ -21,7 +21,7 @@ Item {
         anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         name: content.symbol
-        size: 18
+        size: Metrics.symbolMedium
         color: content.isFolder ? Theme.blue : Theme.secondaryLabel
     }
     Label {

@@ -21,7 +21,7 @@ Item {
     signal boxPressed
     signal tickRequested
 
-    width: 104
+    width: Metrics.treeFileInset
 
     Symbol {
         anchors.left: parent.left
@@ -29,12 +29,12 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         visible: mark.isFolder
         name: mark.open ? "chevron.down" : "chevron.right"
-        size: 16
+        size: Metrics.symbolSmall
         color: Theme.secondaryLabel
     }
     CheckBox {
         anchors.left: parent.left
-        anchors.leftMargin: 44
+        anchors.leftMargin: Metrics.treeBoxInset
         anchors.verticalCenter: parent.verticalCenter
         visible: mark.isFolder
         // The row has the keyboard, and does the same.
@@ -50,7 +50,7 @@ Item {
     }
     CheckMark {
         anchors.left: parent.left
-        anchors.leftMargin: 80
+        anchors.leftMargin: Metrics.treeFileBoxInset
         anchors.verticalCenter: parent.verticalCenter
         visible: !mark.isFolder
         checkState: mark.ticks

@@ -67,7 +67,7 @@ SteadyScope {
         }
         Card {
             width: parent.width
-            height: section.browsable ? browser.height : 56
+            height: section.browsable ? browser.height : Metrics.tallRowHeight
             radius: Theme.radiusLarge
 
             BusyLine {

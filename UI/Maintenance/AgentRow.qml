@@ -64,13 +64,13 @@ T.Control {
         }
         Rectangle {
             anchors.fill: parent
-            anchors.leftMargin: row.margin + 4
-            anchors.rightMargin: row.margin + 4
-            anchors.topMargin: 4
-            anchors.bottomMargin: 3
+            anchors.leftMargin: row.margin + Theme.spacingTiny
+            anchors.rightMargin: row.margin + Theme.spacingTiny
+            anchors.topMargin: Theme.spacingTiny
+            anchors.bottomMargin: Theme.spacingTiny
             radius: Theme.radius
             color: row.hovered ? Theme.hoverFill : "transparent"
-            border.width: row.activeFocus && (row.visualFocus || row.byKeyboard) ? 2 : 0
+            border.width: row.activeFocus && (row.visualFocus || row.byKeyboard) ? Theme.rowRing : 0
             border.color: Theme.focusRing
         }
     }

@@ -22,11 +22,12 @@ Item {
         anchors.right: capsule.left
         anchors.rightMargin: Theme.spacingLarge
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
+        spacing: Theme.spacingHair
 
         Label {
             width: parent.width
             style: Label.Callout
+            elide: Text.ElideMiddle
             text: ShownText.isolated(content.label)
             Accessible.ignored: true
         }
@@ -47,7 +48,7 @@ Item {
         anchors.rightMargin: trash.width + Theme.spacing
         anchors.verticalCenter: parent.verticalCenter
         width: domainText.implicitWidth + 2 * Theme.spacing
-        height: 22
+        height: Metrics.capsuleHeight
         radius: height / 2
         color: Theme.capsuleFill
 

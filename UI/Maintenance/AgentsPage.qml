@@ -14,8 +14,8 @@ ListView {
 
     required property MaintenanceViewModel viewModel
 
-    readonly property real margin: (list.width - Math.min(list.width - 2 * Theme.pageMargin, 1120)) / 2
-    readonly property int rowHeight: 56
+    readonly property real margin: (list.width - Math.min(list.width - 2 * Theme.pageMargin, Metrics.pageWidth)) / 2
+    readonly property int rowHeight: Metrics.tallRowHeight
     readonly property int rowsPerPage: Math.max(1, Math.floor(list.height / list.rowHeight) - 1)
     readonly property real startY: list.originY - list.topMargin
     /// The row that Tab leads to.
@@ -90,7 +90,7 @@ ListView {
     currentIndex: -1
     keyNavigationEnabled: false
     boundsBehavior: Flickable.StopAtBounds
-    cacheBuffer: 640
+    cacheBuffer: Metrics.minimumWindowHeight
     // Not the list's own header and footer: those cannot be made of components that are bound.
     topMargin: header.height
     bottomMargin: Theme.spacingHuge + (list.count === 0 ? list.rowHeight : 0)

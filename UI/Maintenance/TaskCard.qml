@@ -39,7 +39,7 @@ Card {
 
             Symbol {
                 name: card.symbol
-                size: 22
+                size: Metrics.symbolMedium
                 color: Theme.green
             }
             Label {

@@ -14,12 +14,12 @@ GridLayout {
     required property MaintenanceViewModel viewModel
 
     /// The narrowest card that still shows every text.
-    readonly property int minimumCardWidth: 216
+    readonly property int minimumCardWidth: Metrics.taskCardWidth
 
     columns: Math.max(1, Math.min(cards.count,
         Math.floor((grid.width + grid.columnSpacing) / (grid.minimumCardWidth + grid.columnSpacing))))
-    columnSpacing: 16
-    rowSpacing: 16
+    columnSpacing: Theme.spacingLarge
+    rowSpacing: Theme.spacingLarge
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Maintenance tasks")
 

@@ -17,13 +17,13 @@ Item {
     readonly property bool failed: area.status === TaskListModel.Failed
     readonly property bool unavailable: area.status === TaskListModel.Unavailable
 
-    implicitHeight: Math.max(Theme.controlHeight, text.implicitHeight)
+    implicitHeight: Math.max(Metrics.controlHeight, text.implicitHeight)
 
     BusySpinner {
         anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
-        width: 18
-        height: 18
+        width: Metrics.symbolMedium
+        height: Metrics.symbolMedium
         color: Theme.secondaryLabel
         running: area.status === TaskListModel.Running
     }
@@ -34,14 +34,14 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         visible: text.visible
         name: area.done ? "checkmark.circle.fill" : area.failed ? "exclamationmark.triangle.fill" : "info.circle"
-        size: 16
+        size: Metrics.symbolSmall
         color: area.done ? Theme.green : area.failed ? Theme.orange : Theme.secondaryLabel
     }
     Label {
         id: text
 
         anchors.left: sign.right
-        anchors.leftMargin: 6
+        anchors.leftMargin: Theme.spacing
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         visible: area.done || area.failed || area.unavailable

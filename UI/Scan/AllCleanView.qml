@@ -15,13 +15,13 @@ FocusScope {
     Column {
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -Theme.spacingHuge
-        width: Math.min(parent.width - 2 * Theme.pageMargin, 520)
+        width: Math.min(parent.width - 2 * Theme.pageMargin, Metrics.textWidth)
         spacing: Theme.spacing
 
         Symbol {
             anchors.horizontalCenter: parent.horizontalCenter
             name: "checkmark.circle.fill"
-            size: 104
+            size: Metrics.outcomeSymbol
             color: Theme.green
         }
         Item {

@@ -18,7 +18,7 @@ Item {
 
     readonly property ResultsList list: heading.parent === null ? null : heading.parent.parent as ResultsList
     readonly property ScanResultsModel rows: heading.list === null ? null : heading.list.viewModel.rows
-    property var category: ({ title: "", sizeText: "", itemCount: 0, tickedCount: 0 })
+    property var category: ({ title: "", sizeText: "", itemCount: 0, tickedCount: 0, shade: -1 })
 
     readonly property int ticks: heading.category.tickedCount === 0 ? Qt.Unchecked
         : heading.category.tickedCount < heading.category.itemCount ? Qt.PartiallyChecked : Qt.Checked
@@ -29,7 +29,7 @@ Item {
     }
 
     width: heading.list === null ? 0 : heading.list.width
-    implicitHeight: 44
+    implicitHeight: Metrics.headingHeight
     onRowsChanged: heading.refresh()
     onSectionChanged: heading.refresh()
 
@@ -47,12 +47,12 @@ Item {
         anchors.leftMargin: Theme.spacing
         anchors.rightMargin: Theme.spacing
         // The card's own colour, but opaque.
-        color: Qt.tint(Theme.window, Theme.cardBackground)
-        radius: Theme.spacingTiny
+        color: Theme.card
+        radius: Theme.radiusSmall
     }
     CheckBox {
         anchors.left: parent.left
-        anchors.leftMargin: 20
+        anchors.leftMargin: Metrics.rowInset
         anchors.verticalCenter: parent.verticalCenter
         focusPolicy: Qt.NoFocus
         tristate: true
@@ -64,9 +64,18 @@ Item {
         }
         Accessible.name: heading.category.title
     }
-    Label {
+    LegendDot {
+        id: dot
+
         anchors.left: parent.left
-        anchors.leftMargin: 52
+        anchors.leftMargin: Metrics.rowTextInset
+        anchors.verticalCenter: parent.verticalCenter
+        visible: heading.rows !== null && heading.rows.shares.telling
+        shade: Theme.category(heading.category.shade)
+    }
+    Label {
+        anchors.left: dot.visible ? dot.right : parent.left
+        anchors.leftMargin: dot.visible ? Theme.spacing : Metrics.rowTextInset
         anchors.right: size.left
         anchors.rightMargin: Theme.spacingLarge
         anchors.verticalCenter: parent.verticalCenter

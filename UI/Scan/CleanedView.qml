@@ -23,7 +23,7 @@ FocusScope {
         y: view.unfolded ? Theme.spacingHuge
                          : Math.max(Theme.spacingHuge, (parent.height - height) / 2 - Theme.spacingHuge)
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(parent.width - 2 * Theme.pageMargin, 560)
+        width: Math.min(parent.width - 2 * Theme.pageMargin, Metrics.textWidth)
         spacing: Theme.spacing
 
         Behavior on y {
@@ -38,7 +38,7 @@ FocusScope {
         Symbol {
             anchors.horizontalCenter: parent.horizontalCenter
             name: "checkmark.circle.fill"
-            size: view.unfolded ? 64 : 104
+            size: view.unfolded ? Metrics.outcomeSymbolSmall : Metrics.outcomeSymbol
             color: Theme.green
         }
         Item {
@@ -99,18 +99,16 @@ FocusScope {
         anchors.top: summary.bottom
         anchors.topMargin: Theme.spacingHuge
         // No taller than what it lists.
-        height: Math.min(parent.height - y - Theme.spacingHuge, failures.fullHeight + 2)
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.leftMargin: Theme.pageMargin
-        anchors.rightMargin: Theme.pageMargin
+        height: Math.min(parent.height - y - Theme.spacingHuge, failures.fullHeight + 2 * Theme.hairline)
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(parent.width - 2 * Theme.pageMargin, Metrics.tableWidth)
         visible: view.unfolded
 
         FailuresList {
             id: failures
 
             anchors.fill: parent
-            anchors.margins: 1
+            anchors.margins: Theme.hairline
             model: view.viewModel.failures
         }
     }

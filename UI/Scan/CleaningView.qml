@@ -14,8 +14,8 @@ FocusScope {
 
         BusySpinner {
             anchors.horizontalCenter: parent.horizontalCenter
-            width: 56
-            height: 56
+            width: Metrics.spinnerLarge
+            height: Metrics.spinnerLarge
         }
         Label {
             anchors.horizontalCenter: parent.horizontalCenter

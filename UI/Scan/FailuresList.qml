@@ -12,7 +12,7 @@ ListView {
     id: list
 
     /// What the list takes when nothing of it needs to be scrolled to.
-    readonly property real fullHeight: list.count * 56 + list.topMargin + list.bottomMargin
+    readonly property real fullHeight: list.count * Metrics.tallRowHeight + list.topMargin + list.bottomMargin
 
     clip: true
     activeFocusOnTab: true
@@ -32,7 +32,7 @@ ListView {
         required property string message
 
         width: list.width
-        height: 56
+        height: Metrics.tallRowHeight
         Accessible.role: Accessible.ListItem
         Accessible.name: row.path
         Accessible.description: row.message
@@ -45,24 +45,24 @@ ListView {
             anchors.rightMargin: Theme.spacing
             radius: Theme.radius
             color: "transparent"
-            border.width: row.activeFocus ? 2 : 0
+            border.width: row.activeFocus ? Theme.rowRing : 0
             border.color: Theme.focusRing
         }
         Symbol {
             anchors.left: parent.left
-            anchors.leftMargin: 20
+            anchors.leftMargin: Metrics.rowInset
             anchors.verticalCenter: parent.verticalCenter
             name: "exclamationmark.triangle.fill"
-            size: 18
+            size: Metrics.symbolMedium
             color: Theme.warningLabel
         }
         Column {
             anchors.left: parent.left
             anchors.right: parent.right
-            anchors.leftMargin: 52
+            anchors.leftMargin: Metrics.rowTextInset
             anchors.rightMargin: Theme.spacingHuge
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 2
+            spacing: Theme.spacingHair
 
             Label {
                 width: parent.width

@@ -42,9 +42,9 @@ T.CheckDelegate {
         row.toggled();
     }
 
-    implicitHeight: 40
-    leftPadding: row.mirrored ? Theme.spacingHuge : 52
-    rightPadding: row.mirrored ? 52 : Theme.spacingHuge
+    implicitHeight: Metrics.rowHeight
+    leftPadding: row.mirrored ? Theme.spacingHuge : Metrics.rowTextInset
+    rightPadding: row.mirrored ? Metrics.rowTextInset : Theme.spacingHuge
     hoverEnabled: true
     checked: row.ticked
     text: row.name
@@ -87,7 +87,7 @@ T.CheckDelegate {
     }
 
     indicator: CheckMark {
-        x: row.mirrored ? row.width - width - 20 : 20
+        x: row.mirrored ? row.width - width - Metrics.rowInset : Metrics.rowInset
         y: (row.height - height) / 2
         checkState: row.checkState
         down: row.down
@@ -115,11 +115,11 @@ T.CheckDelegate {
             anchors.fill: parent
             anchors.leftMargin: Theme.spacing
             anchors.rightMargin: Theme.spacing
-            anchors.topMargin: 1
-            anchors.bottomMargin: 1
+            anchors.topMargin: Theme.hairline
+            anchors.bottomMargin: Theme.hairline
             radius: Theme.radius
             color: row.down ? Theme.pressedFill : row.hovered ? Theme.hoverFill : "transparent"
-            border.width: row.visualFocus || (row.activeFocus && row.showsFocus) ? 2 : 0
+            border.width: row.visualFocus || (row.activeFocus && row.showsFocus) ? Theme.rowRing : 0
             border.color: Theme.focusRing
         }
     }

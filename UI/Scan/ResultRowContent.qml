@@ -18,7 +18,7 @@ Item {
     /// Whether the pointer rests on the shield.
     readonly property bool shieldHovered: shieldHover.hovered
     /// How much of the width belongs to the name and its shield.
-    readonly property real nameColumn: Math.round(content.width * (content.width > 900 ? 0.52 : 0.49))
+    readonly property real nameColumn: Math.round(content.width * (Metrics.nameColumn))
 
     Label {
         id: nameText
@@ -38,7 +38,7 @@ Item {
         anchors.leftMargin: Theme.spacing
         visible: content.shielded
         name: "exclamationmark.shield"
-        size: 16
+        size: Metrics.symbolSmall
         color: Theme.warningLabel
 
         HoverHandler {
@@ -62,7 +62,7 @@ Item {
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        width: 84
+        width: Metrics.sizeColumn
         horizontalAlignment: Text.AlignRight
         elide: Text.ElideNone
         color: Theme.secondaryLabel

@@ -17,7 +17,7 @@ Item {
     CountingBytes {
         id: selected
 
-        duration: Theme.animated ? 350 : 0
+        duration: Theme.durationLong
         bytes: header.viewModel.selectedBytes
     }
     Column {
@@ -30,9 +30,9 @@ Item {
         Label {
             width: parent.width
             text: selected.text
-            font.pixelSize: 44
+            font.pixelSize: Theme.figure
             font.weight: Font.Bold
-            font.letterSpacing: -1
+            font.letterSpacing: Theme.figureTracking
             Accessible.name: selected.finalText
         }
         Label {

@@ -21,11 +21,19 @@ KeyboardList {
         menu.popup(place, x, y);
     }
 
+    /// Goes to a row, the first of its category, with the heading above it at the top.
+    function lead(row: int, byKeyboard: bool): void {
+        list.byKeyboard = byKeyboard;
+        list.moveTo(row);
+        list.positionViewAtIndex(row, ListView.Beginning);
+        list.forceActiveFocus(byKeyboard ? Qt.TabFocusReason : Qt.MouseFocusReason);
+    }
+
     model: list.viewModel.rows
-    rowHeight: 40
+    rowHeight: Metrics.rowHeight
     // What the keyboard goes to is never under the heading that stays at the top.
     highlightRangeMode: ListView.ApplyRange
-    preferredHighlightBegin: 44
+    preferredHighlightBegin: Metrics.headingHeight
     preferredHighlightEnd: list.height
     bottomMargin: Theme.spacing
     Accessible.name: qsTr("Findings")

@@ -12,29 +12,47 @@ FocusScope {
 
     required property ScanViewModel viewModel
 
+    readonly property real margin: Math.max(Theme.pageMargin, Math.round((view.width - Metrics.tableWidth) / 2))
+
     ResultsHeader {
         id: header
 
         anchors.top: parent.top
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.margins: Theme.pageMargin
+        anchors.leftMargin: view.margin
+        anchors.rightMargin: view.margin
         anchors.topMargin: Theme.spacingHuge
         viewModel: view.viewModel
     }
-    Card {
+    ResultsShares {
+        id: shares
+
         anchors.top: header.bottom
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: view.margin
+        anchors.rightMargin: view.margin
+        anchors.topMargin: Theme.spacingLarge
+        visible: view.viewModel.rows.shares.telling
+        shares: view.viewModel.rows.shares
+        onChosen: (row, byKeyboard) => list.lead(row, byKeyboard)
+    }
+    Card {
+        anchors.top: shares.visible ? shares.bottom : header.bottom
         anchors.bottom: footer.top
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.leftMargin: Theme.pageMargin
-        anchors.rightMargin: Theme.pageMargin
+        anchors.leftMargin: view.margin
+        anchors.rightMargin: view.margin
         anchors.topMargin: Theme.spacingLarge
         anchors.bottomMargin: Theme.spacingLarge
 
         ResultsList {
+            id: list
+
             anchors.fill: parent
-            anchors.margins: 1
+            anchors.margins: Theme.hairline
             focus: true
             viewModel: view.viewModel
             // With a parent, because the list does not keep its heading's component from being collected as garbage.
@@ -47,14 +65,14 @@ FocusScope {
         anchors.bottom: parent.bottom
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.leftMargin: Theme.pageMargin
-        anchors.rightMargin: Theme.pageMargin
+        anchors.leftMargin: view.margin
+        anchors.rightMargin: view.margin
         anchors.bottomMargin: Theme.spacingHuge
-        height: Theme.largeControlHeight
+        height: Metrics.largeControlHeight
 
         Button {
             anchors.centerIn: parent
-            width: Math.max(200, implicitWidth)
+            width: Math.max(Metrics.actionWidth, implicitWidth)
             large: true
             kind: Button.Prominent
             symbol: "sparkles"

@@ -17,12 +17,14 @@ class ScanCategory {
     Q_PROPERTY(QString sizeText MEMBER sizeText)
     Q_PROPERTY(int itemCount MEMBER itemCount)
     Q_PROPERTY(int tickedCount MEMBER tickedCount)
+    Q_PROPERTY(int shade MEMBER shade)
 
 public:
     QString title;    ///< Its name in the language of the program.
     QString sizeText; ///< The total size of the category's items.
     int itemCount = 0;
     int tickedCount = 0;
+    int shade = -1; ///< Which colour, counted from 0; -1 for one that has none of its own.
 
     bool operator==(const ScanCategory&) const = default;
 };

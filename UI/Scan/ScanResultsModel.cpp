@@ -50,6 +50,7 @@ void ScanResultsModel::setFindings(std::shared_ptr<const ScanFindings> findings,
     beginResetModel();
     m_selection = std::move(selection);
     m_findings.swap(findings);
+    m_shares.setFindings(*m_findings);
     endResetModel();
     releaseInBackground(std::move(findings));
     Q_EMIT ticksChanged();
@@ -113,6 +114,7 @@ ScanCategory ScanResultsModel::category(const QString& title) const
         summary.sizeText = QString::fromStdString(formattedBytes(category.totalBytes));
         summary.itemCount = static_cast<int>(category.itemCount);
         summary.tickedCount = static_cast<int>(m_selection.sizeInCategory(*found));
+        summary.shade = m_shares.shadeOf(*found);
     }
     return summary;
 }

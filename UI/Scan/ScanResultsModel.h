@@ -5,6 +5,7 @@
 
 #include "UI/Scan/ScanCategory.h"
 #include "UI/Scan/ScanSelection.h"
+#include "UI/Scan/ScanShares.h"
 
 #include <QAbstractListModel>
 #include <QtQmlIntegration>
@@ -21,6 +22,7 @@ class ScanResultsModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Belongs to a scan view model")
+    Q_PROPERTY(Korvane::ScanShares* shares READ shares CONSTANT FINAL)
 
 public:
     enum Role {
@@ -47,6 +49,8 @@ public:
 
     const ScanFindings& findings() const { return *m_findings; }
     const ScanSelection& selection() const { return m_selection; }
+    /// What part of it all each category has.
+    ScanShares* shares() { return &m_shares; }
 
     /// Each announces the rows that changed; an identity that is not of these findings changes nothing.
     void setTicked(const Uuid& id, bool ticked);
@@ -77,6 +81,7 @@ private:
     std::filesystem::path m_home;
     std::shared_ptr<const ScanFindings> m_findings;
     ScanSelection m_selection;
+    ScanShares m_shares;
 };
 
 } // namespace Korvane

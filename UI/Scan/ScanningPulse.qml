@@ -17,8 +17,8 @@ Item {
     readonly property bool moving: Theme.animated && pulse.visible && pulse.Window.visibility !== Window.Hidden
         && pulse.Window.visibility !== Window.Minimized
 
-    implicitWidth: 220
-    implicitHeight: 220
+    implicitWidth: Metrics.pulseSize
+    implicitHeight: Metrics.pulseSize
     Accessible.ignored: true
 
     Repeater {
@@ -32,25 +32,25 @@ Item {
             property real progress: (ring.index + 1) / 4
 
             anchors.centerIn: parent
-            width: 96 + (pulse.width - 96) * ring.progress
+            width: core.width + (pulse.width - core.width) * ring.progress
             height: width
             radius: width / 2
-            color: Qt.alpha(pulse.accent, 0.16 * (1 - ring.progress))
-            border.width: 1.5
-            border.color: Qt.alpha(pulse.accent, 0.55 * (1 - ring.progress))
+            color: Theme.pulseFill(pulse.accent, 1 - ring.progress)
+            border.width: Theme.hairline
+            border.color: Theme.pulseLine(pulse.accent, 1 - ring.progress)
 
             SequentialAnimation {
                 running: pulse.moving
 
                 PauseAnimation {
-                    duration: ring.index * 800
+                    duration: ring.index * Theme.pulsePeriod / 3
                 }
                 NumberAnimation {
                     target: ring
                     property: "progress"
                     from: 0
                     to: 1
-                    duration: 2400
+                    duration: Theme.pulsePeriod
                     easing.type: Easing.OutQuad
                     loops: Animation.Infinite
                 }
@@ -58,9 +58,11 @@ Item {
         }
     }
     IconTile {
+        id: core
+
         anchors.centerIn: parent
-        size: 96
-        radius: 48
+        size: Metrics.pulseCore
+        radius: size / 2
         symbol: pulse.symbol
         accent: pulse.accent
     }

@@ -16,7 +16,7 @@ FocusScope {
 
     Column {
         anchors.centerIn: parent
-        width: Math.min(parent.width - 2 * Theme.pageMargin, 560)
+        width: Math.min(parent.width - 2 * Theme.pageMargin, Metrics.textWidth)
         spacing: Theme.spacingTiny
 
         ScanningPulse {
@@ -57,7 +57,7 @@ FocusScope {
         }
         Label {
             width: parent.width
-            height: 20
+            height: Theme.lineHeight
             horizontalAlignment: Text.AlignHCenter
             style: Label.Caption
             color: Theme.tertiaryLabel

@@ -19,8 +19,8 @@ Item {
 
         IconTile {
             anchors.horizontalCenter: parent.horizontalCenter
-            size: 76
-            radius: 18
+            size: Metrics.aboutTile
+            radius: Theme.tileRadius
             symbol: "sparkles"
             gradient: Theme.heroGradient
         }

@@ -14,21 +14,21 @@ Item {
 
     readonly property string accessState: row.viewModel.granted ? qsTr("Granted") : qsTr("Not granted")
 
-    implicitHeight: 44
+    implicitHeight: Metrics.headingHeight
 
     Symbol {
         id: mark
 
         anchors.left: parent.left
-        anchors.leftMargin: 2
+        anchors.leftMargin: Theme.spacingHair
         anchors.verticalCenter: parent.verticalCenter
-        size: 20
+        size: Metrics.symbolMedium
         name: row.viewModel.granted ? "checkmark.circle.fill" : "exclamationmark.triangle.fill"
         color: row.viewModel.granted ? Theme.green : Theme.orange
     }
     Label {
         anchors.left: mark.right
-        anchors.leftMargin: 10
+        anchors.leftMargin: Theme.spacing
         anchors.verticalCenter: parent.verticalCenter
         text: qsTr("Full Disk Access")
         Accessible.description: row.accessState

@@ -15,7 +15,7 @@ Rectangle {
     implicitHeight: column.implicitHeight + 2 * column.y
     radius: Theme.radiusLarge
     color: Theme.cardBackground
-    border.width: 1
+    border.width: Theme.hairline
     border.color: Theme.cardBorder
 
     Column {

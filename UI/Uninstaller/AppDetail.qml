@@ -23,7 +23,7 @@ FocusScope {
     EmptyState {
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -Theme.spacingHuge
-        width: Math.min(parent.width - 2 * Theme.spacingHuge, 360)
+        width: Math.min(parent.width - 2 * Theme.spacingHuge, Metrics.noteWidth)
         visible: !detail.viewModel.hasSelection
         symbol: "macwindow"
         title: qsTr("Select an application")

@@ -19,7 +19,7 @@ FocusScope {
         button.forceActiveFocus(Qt.TabFocusReason);
     }
 
-    implicitHeight: 76
+    implicitHeight: Metrics.footerHeight
 
     Separator {
         width: parent.width

@@ -19,7 +19,7 @@ Item {
 
         anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
-        size: 72
+        size: Metrics.detailIcon
         source: header.viewModel.selected.iconSource
     }
     Column {
@@ -50,17 +50,18 @@ Item {
             style: Label.Caption
             color: Theme.tertiaryLabel
             visible: header.viewModel.selected.identifier !== ""
+            elide: Text.ElideMiddle
             text: header.viewModel.selected.identifier
         }
         Row {
             anchors.left: parent.left
             visible: header.viewModel.selectedRunning
-            spacing: 6
+            spacing: Theme.spacing
 
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
                 name: "exclamationmark.triangle.fill"
-                size: 16
+                size: Metrics.symbolSmall
                 color: Theme.orange
             }
             Label {

@@ -25,8 +25,8 @@ Flickable {
     activeFocusOnTab: parts.visible && parts.overflows
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Application and leftovers")
-    Keys.onDownPressed: parts.scroll(48)
-    Keys.onUpPressed: parts.scroll(-48)
+    Keys.onDownPressed: parts.scroll(Metrics.rowHeight)
+    Keys.onUpPressed: parts.scroll(-Metrics.rowHeight)
     T.ScrollBar.vertical: ScrollBar { }
 
     Connections {
@@ -41,7 +41,7 @@ Flickable {
 
         x: Theme.spacingHuge
         y: Theme.spacingLarge
-        width: parts.width - 2 * Theme.spacingHuge
+        width: Math.min(parts.width - 2 * Theme.spacingHuge, Metrics.pageWidth)
         spacing: Theme.spacing
 
         SectionHeader {
@@ -110,7 +110,7 @@ Flickable {
     }
     FocusRing {
         parent: parts
-        anchors.margins: 3
+        anchors.margins: Theme.focusRingWidth
         shown: parts.activeFocus
     }
 }

@@ -48,12 +48,12 @@ T.ItemDelegate {
             anchors.fill: parent
             anchors.leftMargin: Theme.spacingMedium
             anchors.rightMargin: Theme.spacingMedium
-            anchors.topMargin: 1
-            anchors.bottomMargin: 1
+            anchors.topMargin: Theme.hairline
+            anchors.bottomMargin: Theme.hairline
             radius: Theme.radius
             color: row.selected ? Theme.selectionFill : row.down ? Theme.pressedFill
                 : row.hovered ? Theme.hoverFill : "transparent"
-            border.width: row.selected && row.byKeyboard ? 2 : 0
+            border.width: row.selected && row.byKeyboard ? Theme.rowRing : 0
             border.color: Theme.focusRing
         }
     }

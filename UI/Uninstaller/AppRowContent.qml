@@ -20,7 +20,7 @@ Item {
 
         anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
-        size: 36
+        size: Metrics.rowIcon
         source: content.iconSource
     }
     Label {
@@ -40,11 +40,12 @@ Item {
         anchors.right: sizeText.left
         anchors.rightMargin: Theme.spacing
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
+        spacing: Theme.spacingHair
 
         Label {
             width: parent.width
             font.weight: Font.Medium
+            elide: Text.ElideMiddle
             text: content.name
             Accessible.ignored: true
         }

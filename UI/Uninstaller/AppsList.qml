@@ -16,7 +16,7 @@ ListView {
 
     /// Whether the pointer was the last to choose a row; the keyboard then needs no ring.
     property bool pointed: false
-    readonly property int rowHeight: 60
+    readonly property int rowHeight: Metrics.tallRowHeight
     readonly property int rowsPerPage: Math.max(1, Math.floor(list.height / list.rowHeight) - 1)
 
     /// Something was typed that is to be searched for.

@@ -18,7 +18,7 @@ FocusScope {
         id: apps
 
         anchors.left: parent.left
-        width: Math.max(288, Math.min(380, Math.round(view.width * 0.38)))
+        width: Math.round(Metrics.listPane(view.width))
         height: parent.height
         focus: true
         viewModel: view.viewModel

@@ -16,7 +16,7 @@ Item {
     /// Whether a line divides it from the row above.
     property bool separated: false
 
-    implicitHeight: 56
+    implicitHeight: Metrics.tallRowHeight
     Accessible.role: Accessible.ListItem
     Accessible.name: row.name
     Accessible.description: row.size + ", " + row.path
@@ -32,7 +32,7 @@ Item {
         anchors.right: sizeText.left
         anchors.rightMargin: Theme.spacingLarge
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
+        spacing: Theme.spacingHair
 
         Label {
             width: parent.width

@@ -17,7 +17,7 @@ FocusScope {
     Column {
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -Theme.spacingHuge
-        width: Math.min(parent.width - 2 * Theme.pageMargin, 560)
+        width: Math.min(parent.width - 2 * Theme.pageMargin, Metrics.textWidth)
         spacing: Theme.spacing
 
         BusySpinner {
@@ -37,7 +37,7 @@ FocusScope {
         }
         Label {
             width: parent.width
-            height: 20
+            height: Theme.lineHeight
             horizontalAlignment: Text.AlignHCenter
             style: Label.Caption
             color: Theme.tertiaryLabel

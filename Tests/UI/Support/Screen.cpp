@@ -44,9 +44,16 @@ QQuickItem* control(const QQuickWindow* window, const QString& name)
 
 QList<QQuickItem*> controls(const QQuickWindow* window, const QString& name)
 {
+    QList<QQuickItem*> found = itemsNamed(window, name);
+    found.removeIf([](const QQuickItem* item) { return !item->activeFocusOnTab(); });
+    return found;
+}
+
+QList<QQuickItem*> itemsNamed(const QQuickWindow* window, const QString& name)
+{
     QList<QQuickItem*> found;
     walk(window->contentItem(), [&](QQuickItem* item) {
-        if (item->activeFocusOnTab() && accessibleName(item) == name)
+        if (accessibleName(item) == name)
             found.append(item);
         return false;
     });

@@ -19,6 +19,9 @@ QQuickItem* control(const QQuickWindow* window, const QString& accessibleName);
 /// All visible controls with this accessible name, in drawing order.
 QList<QQuickItem*> controls(const QQuickWindow* window, const QString& accessibleName);
 
+/// All visible items with this accessible name, whether Tab leads there or not, in drawing order.
+QList<QQuickItem*> itemsNamed(const QQuickWindow* window, const QString& accessibleName);
+
 /// Every text that can be seen in the window, in drawing order.
 QStringList visibleTexts(const QQuickWindow* window);
 

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Korvane.UI
+
+/// What a colour of a bar stands for: a dot of it, a name, and how much it is.
+Row {
+    id: key
+
+    required property color shade
+    required property string title
+    required property string size
+    /// How wide the name may become before it is cut in the middle.
+    property real widestTitle: Metrics.legendName
+
+    spacing: Theme.spacing
+    Accessible.role: Accessible.StaticText
+    Accessible.name: key.title
+    Accessible.description: key.size
+
+    LegendDot {
+        anchors.verticalCenter: parent.verticalCenter
+        shade: key.shade
+    }
+    Label {
+        width: Math.min(implicitWidth, key.widestTitle)
+        style: Label.Callout
+        elide: Text.ElideMiddle
+        text: ShownText.isolated(key.title)
+        Accessible.ignored: true
+    }
+    Label {
+        style: Label.Callout
+        color: Theme.secondaryLabel
+        elide: Text.ElideNone
+        text: key.size
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Korvane.UI
+
+/// The line under the bar of a storage: how full it is in words, and what the two colours of the bar stand for, where
+/// there is room for both.
+Item {
+    id: caption
+
+    required property color tint
+    required property string text
+    required property string used
+    required property string free
+    /// Whether a screen reader is told elsewhere.
+    property bool silent: false
+
+    readonly property bool fits: words.implicitWidth + Theme.spacingLarge + legend.width <= caption.width
+
+    implicitHeight: words.implicitHeight
+
+    Label {
+        id: words
+
+        anchors.left: parent.left
+        anchors.right: caption.fits ? legend.left : parent.right
+        style: Label.Callout
+        color: Theme.secondaryLabel
+        text: caption.text
+        Accessible.ignored: caption.silent
+    }
+    Row {
+        id: legend
+
+        anchors.right: parent.right
+        visible: caption.fits
+        spacing: Theme.spacingLarge
+
+        LegendKey {
+            shade: caption.tint
+            title: qsTr("Used")
+            size: caption.used
+            Accessible.ignored: caption.silent
+        }
+        LegendKey {
+            shade: Theme.trackFill
+            title: qsTr("Free")
+            size: caption.free
+            Accessible.ignored: caption.silent
+        }
+    }
+}
