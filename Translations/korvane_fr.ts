@@ -816,6 +816,21 @@
     </message>
 </context>
 <context>
+    <name>Korvane::ScanShares</name>
+    <message numerus="yes">
+        <source>%n others</source>
+        <translation>
+            <numerusform>%n autre</numerusform>
+            <numerusform>%n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>category: size</comment>
+        <translation>%1 : %2</translation>
+    </message>
+</context>
+<context>
     <name>Korvane::ScanViewModel</name>
     <message>
         <source>selected of %1 found</source>
@@ -1056,6 +1071,20 @@
     </message>
 </context>
 <context>
+    <name>ShareBar</name>
+    <message>
+        <source>Shares of the categories</source>
+        <translation>Parts des catégories</translation>
+    </message>
+</context>
+<context>
+    <name>ShareLegend</name>
+    <message>
+        <source>Categories</source>
+        <translation>Catégories</translation>
+    </message>
+</context>
+<context>
     <name>Sidebar</name>
     <message>
         <source>Modules</source>
@@ -1103,6 +1132,17 @@
     <message>
         <source>Ctrl+Q</source>
         <translation>Ctrl+Q</translation>
+    </message>
+</context>
+<context>
+    <name>StorageCaption</name>
+    <message>
+        <source>Used</source>
+        <translation>Utilisé</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Libre</translation>
     </message>
 </context>
 <context>

@@ -799,6 +799,20 @@
     </message>
 </context>
 <context>
+    <name>Korvane::ScanShares</name>
+    <message numerus="yes">
+        <source>%n others</source>
+        <translation>
+            <numerusform>ほか%n件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>category: size</comment>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
     <name>Korvane::ScanViewModel</name>
     <message>
         <source>selected of %1 found</source>
@@ -1039,6 +1053,20 @@
     </message>
 </context>
 <context>
+    <name>ShareBar</name>
+    <message>
+        <source>Shares of the categories</source>
+        <translation>カテゴリの割合</translation>
+    </message>
+</context>
+<context>
+    <name>ShareLegend</name>
+    <message>
+        <source>Categories</source>
+        <translation>カテゴリ</translation>
+    </message>
+</context>
+<context>
     <name>Sidebar</name>
     <message>
         <source>Modules</source>
@@ -1086,6 +1114,17 @@
     <message>
         <source>Ctrl+Q</source>
         <translation>Ctrl+Q</translation>
+    </message>
+</context>
+<context>
+    <name>StorageCaption</name>
+    <message>
+        <source>Used</source>
+        <translation>使用済み</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>空き</translation>
     </message>
 </context>
 <context>

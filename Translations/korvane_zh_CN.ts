@@ -799,6 +799,20 @@
     </message>
 </context>
 <context>
+    <name>Korvane::ScanShares</name>
+    <message numerus="yes">
+        <source>%n others</source>
+        <translation>
+            <numerusform>其他 %n 个</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>category: size</comment>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
     <name>Korvane::ScanViewModel</name>
     <message>
         <source>selected of %1 found</source>
@@ -1039,6 +1053,20 @@
     </message>
 </context>
 <context>
+    <name>ShareBar</name>
+    <message>
+        <source>Shares of the categories</source>
+        <translation>各类别所占比例</translation>
+    </message>
+</context>
+<context>
+    <name>ShareLegend</name>
+    <message>
+        <source>Categories</source>
+        <translation>类别</translation>
+    </message>
+</context>
+<context>
     <name>Sidebar</name>
     <message>
         <source>Modules</source>
@@ -1086,6 +1114,17 @@
     <message>
         <source>Ctrl+Q</source>
         <translation>Ctrl+Q</translation>
+    </message>
+</context>
+<context>
+    <name>StorageCaption</name>
+    <message>
+        <source>Used</source>
+        <translation>已用</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>可用</translation>
     </message>
 </context>
 <context>
