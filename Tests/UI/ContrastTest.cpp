@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "Tests/UI/Support/Contrast.h"
-#include "UI/Appearance.h"
+#include "Tests/UI/Support/LoadedTheme.h"
 
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QTest>
 
 #include <memory>
@@ -44,7 +42,7 @@ private Q_SLOTS:
 private:
     static void addLooks();
     void setLook();
-    QColor color(const char* name) const { return m_theme->property(name).value<QColor>(); }
+    QColor color(const char* name) const { return m_loaded->color(name); }
     QColor on(const char* fill, const QColor& ground) const { return over(color(fill), ground); }
     /// The page where it is plain, and where its tint is strongest.
     QList<QColor> pages() const;
@@ -52,23 +50,16 @@ private:
     QList<QColor> grounds() const;
     void verify(const char* ink, const QColor& ground, double least) const;
 
-    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<LoadedTheme> m_loaded;
     Appearance* m_appearance = nullptr;
     QObject* m_theme = nullptr;
 };
 
 void ContrastTest::init()
 {
-    m_engine = std::make_unique<QQmlEngine>();
-    m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    QQmlComponent component(m_engine.get());
-    component.setData("import QtQml\nimport Korvane.UI\n"
-                      "QtObject { property QtObject theme: Theme; property QtObject appearance: Appearance }",
-        QUrl());
-    const std::unique_ptr<QObject> holder(component.create());
-    QVERIFY2(holder, qPrintable(component.errorString()));
-    m_theme = holder->property("theme").value<QObject*>();
-    m_appearance = qobject_cast<Appearance*>(holder->property("appearance").value<QObject*>());
+    m_loaded = std::make_unique<LoadedTheme>();
+    m_theme = m_loaded->theme();
+    m_appearance = m_loaded->appearance();
     QVERIFY(m_theme != nullptr && m_appearance != nullptr);
 }
 

@@ -2,13 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "Tests/UI/Support/Contrast.h"
-#include "UI/Appearance.h"
+#include "Tests/UI/Support/LoadedTheme.h"
 
 #include <QColor>
 #include <QGuiApplication>
 #include <QPalette>
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QTest>
 
 #include <algorithm>
@@ -31,26 +29,19 @@ private Q_SLOTS:
     void highContrastStrengthensTextAndLines();
 
 private:
-    QVariant member(const char* name) const { return m_theme->property(name); }
-    QColor color(const char* name) const { return member(name).value<QColor>(); }
+    QVariant member(const char* name) const { return m_loaded->member(name); }
+    QColor color(const char* name) const { return m_loaded->color(name); }
 
-    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<LoadedTheme> m_loaded;
     Appearance* m_appearance = nullptr;
     QObject* m_theme = nullptr;
 };
 
 void ThemeTest::init()
 {
-    m_engine = std::make_unique<QQmlEngine>();
-    m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    QQmlComponent component(m_engine.get());
-    component.setData("import QtQml\nimport Korvane.UI\n"
-                      "QtObject { property QtObject theme: Theme; property QtObject appearance: Appearance }",
-        QUrl());
-    const std::unique_ptr<QObject> holder(component.create());
-    QVERIFY2(holder, qPrintable(component.errorString()));
-    m_theme = holder->property("theme").value<QObject*>();
-    m_appearance = qobject_cast<Appearance*>(holder->property("appearance").value<QObject*>());
+    m_loaded = std::make_unique<LoadedTheme>();
+    m_theme = m_loaded->theme();
+    m_appearance = m_loaded->appearance();
     QVERIFY(m_theme != nullptr && m_appearance != nullptr);
     m_appearance->setDark(false);
     m_appearance->setReducedMotion(false);
