@@ -90,9 +90,9 @@ IOSMediaViewModel::~IOSMediaViewModel()
 
 QString IOSMediaViewModel::progressText() const
 {
-    if (m_progress.folders == 0)
+    if (m_foldersFound == 0)
         return {};
-    return tr("%1 of %n folders", nullptr, pluralCount(m_progress.folders)).arg(m_progress.done);
+    return tr("%1 of %n folders", nullptr, pluralCount(m_foldersFound)).arg(m_foldersListed);
 }
 
 QString IOSMediaViewModel::title() const { return tr("Photos & Videos on %1").arg(DeviceTexts::name(m_deviceName)); }
@@ -108,25 +108,13 @@ void IOSMediaViewModel::setDeviceName(const std::string& name)
     Q_EMIT deviceNameChanged();
 }
 
-void IOSMediaViewModel::show()
-{
-    m_hidden = false;
-    load();
-}
-
-void IOSMediaViewModel::hide()
-{
-    m_hidden = true;
-    m_listing.cancel();
-    ++m_generation;
-}
-
 void IOSMediaViewModel::load()
 {
     m_listing.cancel();
     m_listing = Cancellation();
     const quint64 generation = ++m_generation;
-    m_progress = Progress();
+    m_hidden = false;
+    m_foldersListed = m_foldersFound = 0;
     Q_EMIT progressChanged();
     setPhase(Phase::Loading);
     runInBackground(
@@ -144,13 +132,21 @@ void IOSMediaViewModel::load()
         });
 }
 
+void IOSMediaViewModel::hide()
+{
+    m_hidden = true;
+    m_listing.cancel();
+    ++m_generation;
+}
+
 MediaProgress IOSMediaViewModel::makeProgressHandler()
 {
     return throttledProgress(
         this, [generation = m_generation](IOSMediaViewModel& self, std::size_t done, std::size_t folders) {
             if (self.m_generation != generation)
                 return;
-            self.m_progress = { done, folders };
+            self.m_foldersListed = done;
+            self.m_foldersFound = folders;
             Q_EMIT self.progressChanged();
         });
 }

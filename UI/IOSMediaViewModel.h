@@ -67,12 +67,10 @@ public:
 
     /// The device is the same, its name may not be.
     void setDeviceName(const std::string& name);
-    /// Those who look at it have come: lists the camera roll afresh.
-    Q_INVOKABLE void show();
-    /// They have gone: a listing that is under way is cancelled, and none begins by itself until `show`.
-    Q_INVOKABLE void hide();
     /// Lists the camera roll afresh; a listing that is still under way is never heard of again.
     Q_INVOKABLE void load();
+    /// Nobody looks at it any more: cancels a listing that is under way, and none begins by itself until `load`.
+    Q_INVOKABLE void hide();
     /// Copies the ticked files into the folder of downloads, which is made when it is missing, one after the other.
     /// Nothing unless `ready`.
     Q_INVOKABLE void exportSelected();
@@ -90,11 +88,6 @@ Q_SIGNALS:
     void statusMessageChanged();
 
 private:
-    struct Progress {
-        std::size_t done = 0;
-        std::size_t folders = 0;
-    };
-
     MediaProgress makeProgressHandler();
     void finishExport(std::size_t succeeded, std::size_t failed);
     void awaitDeletion(quint64 deletion, std::size_t asked);
@@ -109,7 +102,8 @@ private:
     MediaTreeModel m_rows;
     Phase m_phase = Phase::Loading;
     QString m_failure;
-    Progress m_progress;
+    std::size_t m_foldersListed = 0;
+    std::size_t m_foldersFound = 0;
     bool m_working = false;
     bool m_hidden = false;
     std::optional<QString> m_statusMessage;

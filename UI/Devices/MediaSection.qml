@@ -34,7 +34,7 @@ SteadyScope {
     Accessible.name: section.viewModel.title
     onShownChanged: {
         if (section.shown)
-            section.viewModel.show();
+            section.viewModel.load();
         else
             section.viewModel.hide();
     }
