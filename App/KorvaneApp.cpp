@@ -15,12 +15,12 @@ namespace Korvane {
 
 KorvaneApp::KorvaneApp(const Host& host)
     : m_content(host, m_state)
-    , m_trayIcon(host.defaults)
-    , m_menuBar(makeApplicationMenu([this] { openSettings(); }))
+    , m_menuBarViewModel(host, m_state)
+    , m_trayIcon(m_menuBarViewModel)
+    , m_applicationMenu(makeApplicationMenu([this] { openSettings(); }))
+    , m_panel(m_engine, m_menuBarViewModel)
 {
-    connect(&m_trayIcon, &TrayIcon::openRequested, this, &KorvaneApp::openMainWindow);
-    connect(&m_trayIcon, &TrayIcon::scanRequested, this, &KorvaneApp::scanSystemJunk);
-    connect(&m_trayIcon, &TrayIcon::quitRequested, qApp, &QApplication::quit);
+    connectMenuBar();
     // Whether there is an icon to come back from is known only when the last window closes.
     QApplication::setQuitOnLastWindowClosed(false);
     connect(qApp, &QApplication::lastWindowClosed, this, &KorvaneApp::leaveUnlessInTray);
@@ -32,11 +32,40 @@ KorvaneApp::KorvaneApp(const Host& host)
     m_engine.setInitialProperties({ { QStringLiteral("viewModel"), QVariant::fromValue(&m_content) } });
 }
 
+void KorvaneApp::connectMenuBar()
+{
+    connect(&m_menuBarViewModel, &MenuBarViewModel::openRequested, this, &KorvaneApp::openMainWindow);
+    connect(&m_menuBarViewModel, &MenuBarViewModel::quitRequested, qApp, &QApplication::quit);
+    connect(&m_trayIcon, &TrayIcon::clicked, this, &KorvaneApp::showPanelOrMenu);
+    connect(&m_trayIcon, &TrayIcon::menuOpened, &m_panel, &MenuBarPanel::hide);
+    connect(&m_trayIcon, &TrayIcon::doubleClicked, this, [this] {
+        m_panel.hide();
+        openMainWindow();
+    });
+    m_trayWatch = TrayWatch::make([this] { comeBackWithoutTray(); });
+}
+
+void KorvaneApp::showPanelOrMenu()
+{
+    const QRect icon = m_trayIcon.geometry();
+    if (!MenuBarPanel::canBePlaced())
+        openMainWindow(); // The desktop itself shows the menu, for another click.
+    else if (icon.isEmpty())
+        m_trayIcon.popUpMenu();
+    else
+        m_panel.toggle(icon);
+}
+
 bool KorvaneApp::start()
 {
     m_engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Korvane/UI/ContentView.qml")));
     if (mainWindow() == nullptr)
         return false;
+    // What was as large as the screen comes back so; a window manager forgets it with the window.
+    connect(mainWindow(), &QWindow::visibleChanged, this, [this](bool isVisible) {
+        if (!isVisible)
+            m_statesWhenClosed = mainWindow()->windowStates();
+    });
     // The icon is not needed for the first picture: it comes after it.
     QMetaObject::invokeMethod(&m_trayIcon, &TrayIcon::show, Qt::QueuedConnection);
     return true;
@@ -53,16 +82,21 @@ void KorvaneApp::openMainWindow()
     QQuickWindow* window = mainWindow();
     if (window == nullptr)
         return;
-    if (window->windowState() == Qt::WindowMinimized || !window->isVisible())
-        window->showNormal();
+    if (!window->isVisible())
+        window->setWindowStates(m_statesWhenClosed & ~Qt::WindowMinimized);
+    else
+        window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
+    window->show();
     window->raise();
     window->requestActivate();
 }
 
-void KorvaneApp::scanSystemJunk()
+void KorvaneApp::openMainWindowWith(const QByteArray& activationToken)
 {
+    // Where Qt looks for it when a window is to be activated.
+    if (!activationToken.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken);
     openMainWindow();
-    m_state.requestScan(CleanerModule::systemJunk);
 }
 
 void KorvaneApp::openSettings()
@@ -83,6 +117,13 @@ void KorvaneApp::leaveUnlessInTray()
 {
     if (!m_trayIcon.isReachable())
         QApplication::quit();
+}
+
+void KorvaneApp::comeBackWithoutTray()
+{
+    // What is left without any window and without an icon could never be ended, nor seen to finish what it does.
+    if (mainWindow() != nullptr && !mainWindow()->isVisible() && !m_trayIcon.isReachable())
+        openMainWindow();
 }
 
 } // namespace Korvane

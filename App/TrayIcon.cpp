@@ -3,16 +3,14 @@
 
 #include "App/TrayIcon.h"
 
-#include "Core/Scanning/FormattedBytes.h"
-#include "UI/PreferenceKeys.h"
 #include "UI/Symbols/SymbolImage.h"
 
 #include <QAction>
 #include <QColor>
+#include <QCursor>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QPixmap>
-
-#include <utility>
 
 namespace Korvane {
 
@@ -29,26 +27,37 @@ QIcon icon()
     return icon;
 }
 
+/// Whether an icon with a menu still hears of clicks.
+bool iconMayHaveMenu() { return QGuiApplication::platformName() != QLatin1String("cocoa"); }
+
 } // namespace
 
-TrayIcon::TrayIcon(std::shared_ptr<UserDefaults> defaults)
-    : m_defaults(std::move(defaults))
+TrayIcon::TrayIcon(MenuBarViewModel& viewModel)
+    : m_viewModel(viewModel)
     , m_lastCleanup(m_menu.addAction(QString()))
+    , m_lastCleanupMoment(m_menu.addAction(QString()))
     , m_lastCleanupSeparator(m_menu.addSeparator())
-    , m_observation(m_defaults->observe([this](std::string_view) { updateLastCleanup(); }))
 {
     m_lastCleanup->setEnabled(false);
-    connect(m_menu.addAction(tr("Open Korvane")), &QAction::triggered, this, &TrayIcon::openRequested);
-    connect(m_menu.addAction(tr("Scan System Junk")), &QAction::triggered, this, &TrayIcon::scanRequested);
+    m_lastCleanupMoment->setEnabled(false);
+    addCommand(tr("Open Korvane"), &MenuBarViewModel::open);
+    addCommand(tr("Scan System Junk"), &MenuBarViewModel::scanSystemJunk);
+    addCommand(tr("Free Up RAM"), &MenuBarViewModel::freeUpRam);
     m_menu.addSeparator();
-    connect(m_menu.addAction(tr("Quit Korvane")), &QAction::triggered, this, &TrayIcon::quitRequested);
-    updateLastCleanup();
+    addCommand(tr("Quit Korvane"), &MenuBarViewModel::quit);
+    tellLastCleanup();
+    connect(&m_viewModel, &MenuBarViewModel::lastCleanupChanged, this, &TrayIcon::tellLastCleanup);
+    connect(&m_menu, &QMenu::aboutToShow, this, &TrayIcon::tellLastCleanup);
+    connect(&m_menu, &QMenu::aboutToShow, this, &TrayIcon::menuOpened);
     m_icon.setToolTip(tr("Korvane"));
-    m_icon.setContextMenu(&m_menu);
-    connect(&m_icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-        if (reason == QSystemTrayIcon::DoubleClick)
-            Q_EMIT openRequested();
-    });
+    if (iconMayHaveMenu())
+        m_icon.setContextMenu(&m_menu);
+    connect(&m_icon, &QSystemTrayIcon::activated, this, &TrayIcon::onActivated);
+}
+
+void TrayIcon::addCommand(const QString& text, void (MenuBarViewModel::*command)())
+{
+    connect(m_menu.addAction(text), &QAction::triggered, &m_viewModel, command);
 }
 
 void TrayIcon::show()
@@ -59,13 +68,24 @@ void TrayIcon::show()
 
 bool TrayIcon::isReachable() const { return m_icon.isVisible() && QSystemTrayIcon::isSystemTrayAvailable(); }
 
-void TrayIcon::updateLastCleanup()
+void TrayIcon::popUpMenu() { m_menu.popup(QCursor::pos()); }
+
+void TrayIcon::onActivated(QSystemTrayIcon::ActivationReason reason)
 {
-    const bool recorded = m_defaults->doubleForKey(PreferenceKeys::lastCleanedDate, 0.0) > 0.0;
-    const std::int64_t bytes = m_defaults->integerForKey(PreferenceKeys::lastCleanedBytes, 0);
-    m_lastCleanup->setText(tr("Last cleanup: %1").arg(QString::fromStdString(formattedBytes(bytes))));
-    m_lastCleanup->setVisible(recorded);
-    m_lastCleanupSeparator->setVisible(recorded);
+    // Where the icon has a menu, the desktop opens it for the other button.
+    if (reason == QSystemTrayIcon::Trigger || (reason == QSystemTrayIcon::Context && !iconMayHaveMenu()))
+        Q_EMIT clicked();
+    else if (reason == QSystemTrayIcon::DoubleClick)
+        Q_EMIT doubleClicked();
+}
+
+void TrayIcon::tellLastCleanup()
+{
+    const bool recorded = m_viewModel.hasLastCleanup();
+    m_lastCleanup->setText(m_viewModel.lastCleanup());
+    m_lastCleanupMoment->setText(m_viewModel.lastCleanupMoment());
+    for (QAction* line : { m_lastCleanup, m_lastCleanupMoment, m_lastCleanupSeparator })
+        line->setVisible(recorded);
 }
 
 } // namespace Korvane

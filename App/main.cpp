@@ -18,16 +18,19 @@
 ///     Dashboard/         the parts of the home screen
 ///     Devices/           the parts of the screen of devices
 ///     Maintenance/       the parts of the maintenance screen
+///     MenuBar/           the parts of the panel in the menu bar
 ///     Scan/              the parts of the scan screen
 ///     Settings/          the parts of the settings window
 ///     Symbols/           one family of drawings, and what tints them
 ///     Uninstaller/       the parts of the uninstaller's screen; the icons of applications
 ///   Translations/      the texts of the program in other languages
 ///   CLI/               the same engine for a terminal
-///   App/               this file; KorvaneApp with its windows, AppState, Languages, TrayIcon, menus
+///   App/               this file; KorvaneApp with its windows, AppState, Languages, TrayIcon with its panel, menus,
+///   SingleInstance
 
 #include "App/KorvaneApp.h"
 #include "App/Languages.h"
+#include "App/SingleInstance.h"
 #include "App/TerminationSignals.h"
 #include "Platform/CloudFiles.h"
 #include "Platform/Environment.h"
@@ -37,7 +40,46 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QMessageBox>
 #include <QQuickWindow>
+
+#include <cstdio>
+#include <memory>
+#include <utility>
+
+namespace {
+
+/// What tells the desktops of one user apart.
+QByteArray desktopSession()
+{
+    return QGuiApplication::platformName().toUtf8() + '\0' + qgetenv("WAYLAND_DISPLAY") + '\0' + qgetenv("DISPLAY");
+}
+
+/// Tells the one who started this that the one that runs already is stuck.
+void tellOfSilence()
+{
+    const QString text = QCoreApplication::translate("main", "Korvane is already running, but it does not answer.");
+    std::fprintf(stderr, "korvane: %s\n", text.toUtf8().constData());
+    QMessageBox box(QMessageBox::Warning, QCoreApplication::translate("main", "Korvane"), text);
+    box.setInformativeText(QCoreApplication::translate(
+        "main", "Wait until it has finished what it is doing, or end it, and open Korvane again."));
+    box.open();
+    QApplication::exec();
+}
+
+/// Runs until the user quits; the status of the program.
+int run(const Korvane::Host& host, std::unique_ptr<Korvane::SingleInstance> instance)
+{
+    Korvane::KorvaneApp korvane(host);
+    QObject::connect(
+        instance.get(), &Korvane::SingleInstance::shownAgain, &korvane, &Korvane::KorvaneApp::openMainWindowWith);
+    const int status = korvane.start() ? QApplication::exec() : EXIT_FAILURE;
+    // Whoever starts it from now on need not wait for what this one still finishes.
+    instance.reset();
+    return status;
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
@@ -53,12 +95,18 @@ int main(int argc, char* argv[])
     const Korvane::TerminationSignals terminationSignals;
 
     const Korvane::Host host = Korvane::makeHost(Korvane::Environment::current());
-    int status = EXIT_FAILURE;
-    {
-        Korvane::KorvaneApp korvane(host);
-        if (korvane.start())
-            status = QApplication::exec();
+    auto instance = std::make_unique<Korvane::SingleInstance>(
+        host.environment, qgetenv("XDG_RUNTIME_DIR").toStdString(), desktopSession());
+    switch (instance->claim(qgetenv("XDG_ACTIVATION_TOKEN"))) {
+    case Korvane::SingleInstance::Outcome::First:
+        break;
+    case Korvane::SingleInstance::Outcome::Shown:
+        return EXIT_SUCCESS;
+    case Korvane::SingleInstance::Outcome::Silent:
+        tellOfSilence();
+        return EXIT_FAILURE;
     }
+    const int status = run(host, std::move(instance));
     // A cleaning that was begun is finished and recorded, although its window is gone.
     Korvane::finishBackgroundWork();
     return status;

@@ -23,7 +23,7 @@ debian_packages=(
 )
 debian_test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev qml6-module-qttest
-    xvfb xauth openbox xdotool imagemagick procps
+    xvfb xauth openbox xdotool trayer imagemagick procps
     libglib2.0-bin gvfs trash-cli erofs-utils libimobiledevice-utils
     desktop-file-utils appstream dpkg-dev
     clang libclang-rt-dev

@@ -73,13 +73,17 @@ void KorvaneAppTest::theMenuTellsTheLastCleanupOnceThereIsOne()
 {
     const TemporaryFolder folder;
     const TestHost test = makeTestHost(folder);
-    const TrayIcon tray(test.host.defaults);
+    AppState state;
+    MenuBarViewModel menuBar(test.host, state);
+    const TrayIcon tray(menuBar);
     const QStringList commands{ QStringLiteral("Open Korvane"), QStringLiteral("Scan System Junk"),
-        QStringLiteral("Quit Korvane") };
+        QStringLiteral("Free Up RAM"), QStringLiteral("Quit Korvane") };
     QCOMPARE(visibleTexts(tray.menu()), commands);
     QVERIFY(test.host.defaults->setInteger(PreferenceKeys::lastCleanedBytes, 2'500'000));
-    QVERIFY(test.host.defaults->setDouble(PreferenceKeys::lastCleanedDate, 1'700'000'000.0));
-    QCOMPARE(visibleTexts(tray.menu()), QStringList(QStringLiteral("Last cleanup: 2.5 MB")) + commands);
+    QVERIFY(test.host.defaults->setDouble(PreferenceKeys::lastCleanedDate, 1.0));
+    const QStringList lines{ QStringLiteral("Last cleanup: 2.5 MB"), menuBar.lastCleanupMoment() };
+    QVERIFY(lines.last().endsWith(QStringLiteral(" years ago")));
+    QCOMPARE(visibleTexts(tray.menu()), lines + commands);
 }
 
 void KorvaneAppTest::theMenuOpensAClosedWindow()

@@ -1,0 +1,325 @@
+// SPDX-FileCopyrightText: 2026 The Korvane authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "App/KorvaneApp.h"
+#include "Tests/App/TrayHost.h"
+#include "Tests/Support/Sentinel.h"
+#include "Tests/Support/TestHost.h"
+#include "Tests/UI/Maintenance/HeldProcesses.h"
+#include "Tests/UI/Support/QmlWarnings.h"
+#include "Tests/UI/Support/Screen.h"
+#include "UI/Background.h"
+#include "UI/PreferenceKeys.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace Korvane;
+
+/// The application beside a real tray, by a real pointer and keyboard.
+class TrayTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void aClickShowsThePanelAtTheIcon();
+    void aSecondClickHidesIt();
+    void escapeHidesIt();
+    void itGoesWhenAnotherWindowHasTheKeyboard();
+    void theOtherButtonOpensTheMenu();
+    void aDoubleClickOpensTheWindow();
+    void tellsTheLastCleanupAndGrowsWithIt();
+    void leadsByKeysFromCommandToCommand();
+    void opensAClosedWindow();
+    void opensAWindowThatIsAnIcon();
+    void keepsTheSizeOfAWindowThatFilledTheScreen();
+    void scansSystemJunkInAClosedWindow();
+    void freesMemoryWithoutAWindow();
+    void quits();
+    void mirrorsForLanguagesFromTheRight();
+    void livesOnInTheTrayAndComesBackWhenThatGoes();
+
+private:
+    QQuickWindow* window() const { return m_app->mainWindow(); }
+    QQuickWindow* panel() const { return m_app->panel().window(); }
+    bool isPanelShown() const { return panel() != nullptr && panel()->isVisible() && panel()->isActive(); }
+    void clickIcon(int button = 1) const { TrayHost::click(m_app->trayIcon().geometry().center(), button); }
+    void showPanel() const
+    {
+        clickIcon();
+        QTRY_VERIFY(isPanelShown());
+    }
+    void pressInPanel(const char* name) const;
+    QString focused() const { return accessibleName(panel()->activeFocusItem()); }
+    void closeWindow() const
+    {
+        window()->close();
+        QTRY_VERIFY(!window()->isVisible());
+    }
+
+    TrayHost m_tray;
+    std::unique_ptr<QmlWarnings> m_warnings;
+    std::unique_ptr<TemporaryFolder> m_folder;
+    std::unique_ptr<TestHost> m_test;
+    std::shared_ptr<HeldProcesses> m_processes;
+    std::unique_ptr<KorvaneApp> m_app;
+};
+
+void TrayTest::initTestCase()
+{
+    const QString obstacle = m_tray.start();
+    if (!obstacle.isEmpty())
+        QSKIP(qPrintable(obstacle));
+}
+
+void TrayTest::init()
+{
+    m_warnings = std::make_unique<QmlWarnings>();
+    m_folder = std::make_unique<TemporaryFolder>();
+    m_test = std::make_unique<TestHost>(makeTestHost(*m_folder));
+    m_processes = std::make_shared<HeldProcesses>();
+    m_test->host.processes = m_processes;
+    writeFile(m_test->host.environment.scriptInterpreter, "");
+    m_app = std::make_unique<KorvaneApp>(m_test->host);
+    QVERIFY(m_app->start());
+    QVERIFY(QTest::qWaitForWindowActive(window()));
+    QTRY_VERIFY(m_app->trayIcon().isReachable());
+    QTRY_VERIFY(!m_app->trayIcon().geometry().isEmpty());
+    QRect place;
+    do {
+        place = m_app->trayIcon().geometry();
+        QTest::qWait(200);
+    } while (place != m_app->trayIcon().geometry());
+}
+
+void TrayTest::cleanup()
+{
+    m_app.reset();
+    finishBackgroundWork();
+    const QStringList warnings = m_warnings->texts();
+    m_warnings.reset();
+    QCOMPARE(warnings, QStringList());
+}
+
+void TrayTest::pressInPanel(const char* name) const
+{
+    QQuickItem* row = control(panel(), QString::fromUtf8(name));
+    QVERIFY2(row, name);
+    TrayHost::click(row->mapToGlobal(QPointF(row->width() / 2, row->height() / 2)).toPoint(), 1);
+    QTRY_VERIFY(!panel()->isVisible());
+}
+
+void TrayTest::aClickShowsThePanelAtTheIcon()
+{
+    QVERIFY(panel() == nullptr);
+    showPanel();
+    const QRect icon = m_app->trayIcon().geometry();
+    const QRect place = panel()->frameGeometry();
+    QVERIFY(panel()->screen()->availableGeometry().contains(place));
+    QVERIFY(!place.intersects(icon));
+    QVERIFY(place.top() - icon.bottom() < 16);
+    QVERIFY(place.left() < icon.right() && place.right() > icon.left());
+    const QStringList texts{ QStringLiteral("Open Korvane"), QStringLiteral("Scan System Junk"),
+        QStringLiteral("Free Up RAM"), QStringLiteral("Quit Korvane") };
+    QCOMPARE(visibleTexts(panel()), texts);
+    QVERIFY(m_app->menuBar().isShown());
+}
+
+void TrayTest::aSecondClickHidesIt()
+{
+    showPanel();
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    clickIcon();
+    QTRY_VERIFY(!panel()->isVisible());
+    QTRY_VERIFY(!m_app->menuBar().isShown());
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    showPanel();
+}
+
+void TrayTest::escapeHidesIt()
+{
+    showPanel();
+    TrayHost::press(QStringLiteral("Escape"));
+    QTRY_VERIFY(!panel()->isVisible());
+    QVERIFY(window()->isVisible());
+}
+
+void TrayTest::itGoesWhenAnotherWindowHasTheKeyboard()
+{
+    showPanel();
+    window()->requestActivate();
+    QTRY_VERIFY(!panel()->isVisible());
+}
+
+void TrayTest::theOtherButtonOpensTheMenu()
+{
+    QVERIFY(m_test->host.defaults->setDouble(PreferenceKeys::lastCleanedDate, 1.0));
+    showPanel();
+    clickIcon(3);
+    const QMenu& menu = m_app->trayIcon().menu();
+    QTRY_VERIFY(menu.isVisible());
+    QTRY_VERIFY(!panel()->isVisible());
+    TrayHost::press(QStringLiteral("Escape"));
+    QTRY_VERIFY(!menu.isVisible());
+}
+
+void TrayTest::aDoubleClickOpensTheWindow()
+{
+    closeWindow();
+    clickIcon();
+    clickIcon();
+    QTRY_VERIFY(window()->isVisible());
+    QTRY_VERIFY(window()->isActive());
+    QVERIFY(!panel()->isVisible());
+}
+
+void TrayTest::tellsTheLastCleanupAndGrowsWithIt()
+{
+    showPanel();
+    const QRect before = panel()->frameGeometry();
+    const auto other = makeUserDefaults(m_test->host.environment);
+    QVERIFY(other->setInteger(PreferenceKeys::lastCleanedBytes, 12'400'000));
+    QVERIFY(other->setDouble(PreferenceKeys::lastCleanedDate, 1.0));
+    QTRY_VERIFY(visibleTexts(panel()).contains(QStringLiteral("Last cleanup: 12.4 MB")));
+    QVERIFY(visibleTexts(panel()).contains(m_app->menuBar().lastCleanupMoment()));
+    QTRY_VERIFY(panel()->height() > before.height() + 30);
+    QTRY_VERIFY(panel()->screen()->availableGeometry().contains(panel()->frameGeometry()));
+    QCOMPARE(panel()->frameGeometry().top(), before.top());
+}
+
+void TrayTest::leadsByKeysFromCommandToCommand()
+{
+    showPanel();
+    QCOMPARE(focused(), QStringLiteral("Open Korvane"));
+    const std::initializer_list<std::pair<const char*, const char*>> steps{ { "Down", "Open Korvane" },
+        { "Down", "Scan System Junk" }, { "Down", "Free Up RAM" }, { "Up", "Scan System Junk" },
+        { "Tab", "Free Up RAM" }, { "Tab", "Quit Korvane" }, { "Down", "Open Korvane" }, { "Up", "Quit Korvane" },
+        { "Tab", "Open Korvane" } };
+    for (const auto& [key, name] : steps) {
+        TrayHost::press(QString::fromUtf8(key));
+        QTRY_COMPARE(focused(), QString::fromUtf8(name));
+    }
+    closeWindow();
+    TrayHost::press(QStringLiteral("Return"));
+    QTRY_VERIFY(window()->isVisible());
+    QTRY_VERIFY(!panel()->isVisible());
+}
+
+void TrayTest::opensAClosedWindow()
+{
+    closeWindow();
+    showPanel();
+    pressInPanel("Open Korvane");
+    QTRY_VERIFY(window()->isActive());
+    QVERIFY(!m_app->state().selectedModule());
+}
+
+void TrayTest::opensAWindowThatIsAnIcon()
+{
+    window()->showMinimized();
+    QTRY_VERIFY(!window()->isExposed());
+    showPanel();
+    pressInPanel("Open Korvane");
+    QTRY_VERIFY(window()->isActive());
+    QVERIFY(QTest::qWaitForWindowExposed(window()));
+}
+
+void TrayTest::keepsTheSizeOfAWindowThatFilledTheScreen()
+{
+    const QSize before = window()->size();
+    window()->showMaximized();
+    QTRY_VERIFY(window()->width() > before.width());
+    QTRY_VERIFY(window()->windowStates() & Qt::WindowMaximized);
+    // The window manager may still tell of what was before.
+    QTest::qWait(300);
+    QTRY_VERIFY(window()->windowStates() & Qt::WindowMaximized);
+    const QSize full = window()->size();
+    closeWindow();
+    m_app->openMainWindow();
+    QTRY_VERIFY(window()->isActive());
+    QTRY_COMPARE(window()->size(), full);
+    QTRY_VERIFY(window()->windowStates() & Qt::WindowMaximized);
+}
+
+void TrayTest::scansSystemJunkInAClosedWindow()
+{
+    writeFile(m_test->host.environment.home / "Library/Caches/org.example.maps/tiles", std::size_t{ 900'000 });
+    closeWindow();
+    showPanel();
+    pressInPanel("Scan System Junk");
+    QTRY_VERIFY(window()->isActive());
+    QTRY_VERIFY(control(window(), QStringLiteral("Clean")));
+    QVERIFY(visibleTexts(window()).contains(QStringLiteral("org.example.maps")));
+    QVERIFY(!m_app->state().pendingScan());
+}
+
+void TrayTest::freesMemoryWithoutAWindow()
+{
+    closeWindow();
+    showPanel();
+    pressInPanel("Free Up RAM");
+    QTRY_COMPARE(m_processes->started().size(), std::size_t{ 1 });
+    QVERIFY(!window()->isVisible());
+    showPanel();
+    QVERIFY(!control(panel(), QStringLiteral("Free Up RAM"))->isEnabled());
+    m_processes->end("purge", TestProcessRunner::exited(1, "User canceled."));
+    QTRY_VERIFY(control(panel(), QStringLiteral("Free Up RAM"))->isEnabled());
+}
+
+void TrayTest::quits()
+{
+    showPanel();
+    QSignalSpy asked(&m_app->menuBar(), &MenuBarViewModel::quitRequested);
+    // Nobody but the test is to end.
+    disconnect(&m_app->menuBar(), &MenuBarViewModel::quitRequested, qApp, nullptr);
+    pressInPanel("Quit Korvane");
+    QTRY_COMPARE(asked.count(), 1);
+}
+
+void TrayTest::mirrorsForLanguagesFromTheRight()
+{
+    const auto startsAtTheRight = [this] {
+        const QQuickItem* row = control(panel(), QStringLiteral("Open Korvane"));
+        const auto* symbol = row->findChild<QQuickItem*>(QStringLiteral("symbol"));
+        return symbol->mapToItem(row, QPointF(symbol->width() / 2, 0)).x() > row->width() / 2;
+    };
+    showPanel();
+    QVERIFY(!startsAtTheRight());
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    QTRY_VERIFY(startsAtTheRight());
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    QTRY_VERIFY(!startsAtTheRight());
+}
+
+void TrayTest::livesOnInTheTrayAndComesBackWhenThatGoes()
+{
+    QTimer::singleShot(0, window(), &QWindow::close);
+    QTimer::singleShot(1000, qApp, [] { QCoreApplication::exit(7); });
+    QCOMPARE(QApplication::exec(), 7);
+    QVERIFY(!window()->isVisible());
+    m_tray.crash();
+    QTRY_VERIFY_WITH_TIMEOUT(window()->isVisible(), 10'000);
+    QVERIFY(!m_app->trayIcon().isReachable());
+    // Now there is nothing to come back from any more.
+    QTimer::singleShot(0, window(), &QWindow::close);
+    QTimer::singleShot(10'000, qApp, [] { QCoreApplication::exit(7); });
+    QCOMPARE(QApplication::exec(), 0);
+}
+
+int main(int argc, char* argv[])
+{
+    // The desktop of whoever runs the tests may have a tray of another kind.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
+    QApplication application(argc, argv);
+    TrayTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "TrayTest.moc"
