@@ -776,6 +776,13 @@
     </message>
 </context>
 <context>
+    <name>Korvane::MenuBarViewModel</name>
+    <message>
+        <source>Last cleanup: %1</source>
+        <translation>Zuletzt aufgeräumt: %1</translation>
+    </message>
+</context>
+<context>
     <name>Korvane::ScanConfirmation</name>
     <message>
         <source>%1 will be moved to Trash. You can restore it from there.</source>
@@ -863,8 +870,8 @@
         <translation>Korvane</translation>
     </message>
     <message>
-        <source>Last cleanup: %1</source>
-        <translation>Zuletzt aufgeräumt: %1</translation>
+        <source>Free Up RAM</source>
+        <translation>RAM freigeben</translation>
     </message>
 </context>
 <context>
@@ -977,6 +984,29 @@
     <message>
         <source>Delete Permanently</source>
         <translation>Endgültig löschen</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBarView</name>
+    <message>
+        <source>Korvane</source>
+        <translation>Korvane</translation>
+    </message>
+    <message>
+        <source>Open Korvane</source>
+        <translation>Korvane öffnen</translation>
+    </message>
+    <message>
+        <source>Scan System Junk</source>
+        <translation>Systemabfall suchen</translation>
+    </message>
+    <message>
+        <source>Free Up RAM</source>
+        <translation>RAM freigeben</translation>
+    </message>
+    <message>
+        <source>Quit Korvane</source>
+        <translation>Korvane beenden</translation>
     </message>
 </context>
 <context>
@@ -1186,6 +1216,21 @@
     <message>
         <source>Scan Applications</source>
         <translation>Programme suchen</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Korvane is already running, but it does not answer.</source>
+        <translation>Korvane läuft bereits, antwortet aber nicht.</translation>
+    </message>
+    <message>
+        <source>Korvane</source>
+        <translation>Korvane</translation>
+    </message>
+    <message>
+        <source>Wait until it has finished what it is doing, or end it, and open Korvane again.</source>
+        <translation>Warten Sie, bis es fertig ist, oder beenden Sie es, und öffnen Sie Korvane dann erneut.</translation>
     </message>
 </context>
 </TS>

@@ -776,6 +776,13 @@
     </message>
 </context>
 <context>
+    <name>Korvane::MenuBarViewModel</name>
+    <message>
+        <source>Last cleanup: %1</source>
+        <translation>Dernier nettoyage&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>Korvane::ScanConfirmation</name>
     <message>
         <source>%1 will be moved to Trash. You can restore it from there.</source>
@@ -827,7 +834,7 @@
     <message>
         <source>%1: %2</source>
         <comment>category: size</comment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -863,8 +870,8 @@
         <translation>Korvane</translation>
     </message>
     <message>
-        <source>Last cleanup: %1</source>
-        <translation>Dernier nettoyage&#xa0;: %1</translation>
+        <source>Free Up RAM</source>
+        <translation>Libérer la mémoire vive</translation>
     </message>
 </context>
 <context>
@@ -977,6 +984,29 @@
     <message>
         <source>Delete Permanently</source>
         <translation>Supprimer définitivement</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBarView</name>
+    <message>
+        <source>Korvane</source>
+        <translation>Korvane</translation>
+    </message>
+    <message>
+        <source>Open Korvane</source>
+        <translation>Ouvrir Korvane</translation>
+    </message>
+    <message>
+        <source>Scan System Junk</source>
+        <translation>Analyser les fichiers inutiles</translation>
+    </message>
+    <message>
+        <source>Free Up RAM</source>
+        <translation>Libérer la mémoire vive</translation>
+    </message>
+    <message>
+        <source>Quit Korvane</source>
+        <translation>Quitter Korvane</translation>
     </message>
 </context>
 <context>
@@ -1186,6 +1216,21 @@
     <message>
         <source>Scan Applications</source>
         <translation>Analyser les applications</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Korvane is already running, but it does not answer.</source>
+        <translation>Korvane est déjà en cours d’exécution, mais ne répond pas.</translation>
+    </message>
+    <message>
+        <source>Korvane</source>
+        <translation>Korvane</translation>
+    </message>
+    <message>
+        <source>Wait until it has finished what it is doing, or end it, and open Korvane again.</source>
+        <translation>Attendez qu’il ait terminé ce qu’il fait, ou forcez-le à quitter, puis ouvrez de nouveau Korvane.</translation>
     </message>
 </context>
 </TS>

@@ -760,6 +760,13 @@
     </message>
 </context>
 <context>
+    <name>Korvane::MenuBarViewModel</name>
+    <message>
+        <source>Last cleanup: %1</source>
+        <translation>前回のクリーニング: %1</translation>
+    </message>
+</context>
+<context>
     <name>Korvane::ScanConfirmation</name>
     <message>
         <source>%1 will be moved to Trash. You can restore it from there.</source>
@@ -845,8 +852,8 @@
         <translation>Korvane</translation>
     </message>
     <message>
-        <source>Last cleanup: %1</source>
-        <translation>前回のクリーニング: %1</translation>
+        <source>Free Up RAM</source>
+        <translation>RAMを解放</translation>
     </message>
 </context>
 <context>
@@ -959,6 +966,29 @@
     <message>
         <source>Delete Permanently</source>
         <translation>完全に削除</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBarView</name>
+    <message>
+        <source>Korvane</source>
+        <translation>Korvane</translation>
+    </message>
+    <message>
+        <source>Open Korvane</source>
+        <translation>Korvaneを開く</translation>
+    </message>
+    <message>
+        <source>Scan System Junk</source>
+        <translation>システムの不要ファイルをスキャン</translation>
+    </message>
+    <message>
+        <source>Free Up RAM</source>
+        <translation>RAMを解放</translation>
+    </message>
+    <message>
+        <source>Quit Korvane</source>
+        <translation>Korvaneを終了</translation>
     </message>
 </context>
 <context>
@@ -1168,6 +1198,21 @@
     <message>
         <source>Scan Applications</source>
         <translation>アプリケーションをスキャン</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Korvane is already running, but it does not answer.</source>
+        <translation>Korvaneはすでに動作していますが、応答がありません。</translation>
+    </message>
+    <message>
+        <source>Korvane</source>
+        <translation>Korvane</translation>
+    </message>
+    <message>
+        <source>Wait until it has finished what it is doing, or end it, and open Korvane again.</source>
+        <translation>実行中の処理が終わるまで待つか、終了させてから、もう一度Korvaneを開いてください。</translation>
     </message>
 </context>
 </TS>

@@ -760,6 +760,13 @@
     </message>
 </context>
 <context>
+    <name>Korvane::MenuBarViewModel</name>
+    <message>
+        <source>Last cleanup: %1</source>
+        <translation>上次清理：%1</translation>
+    </message>
+</context>
+<context>
     <name>Korvane::ScanConfirmation</name>
     <message>
         <source>%1 will be moved to Trash. You can restore it from there.</source>
@@ -845,8 +852,8 @@
         <translation>Korvane</translation>
     </message>
     <message>
-        <source>Last cleanup: %1</source>
-        <translation>上次清理：%1</translation>
+        <source>Free Up RAM</source>
+        <translation>释放内存</translation>
     </message>
 </context>
 <context>
@@ -959,6 +966,29 @@
     <message>
         <source>Delete Permanently</source>
         <translation>永久删除</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBarView</name>
+    <message>
+        <source>Korvane</source>
+        <translation>Korvane</translation>
+    </message>
+    <message>
+        <source>Open Korvane</source>
+        <translation>打开 Korvane</translation>
+    </message>
+    <message>
+        <source>Scan System Junk</source>
+        <translation>扫描系统垃圾</translation>
+    </message>
+    <message>
+        <source>Free Up RAM</source>
+        <translation>释放内存</translation>
+    </message>
+    <message>
+        <source>Quit Korvane</source>
+        <translation>退出 Korvane</translation>
     </message>
 </context>
 <context>
@@ -1168,6 +1198,21 @@
     <message>
         <source>Scan Applications</source>
         <translation>扫描应用程序</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Korvane is already running, but it does not answer.</source>
+        <translation>Korvane 已在运行，但没有响应。</translation>
+    </message>
+    <message>
+        <source>Korvane</source>
+        <translation>Korvane</translation>
+    </message>
+    <message>
+        <source>Wait until it has finished what it is doing, or end it, and open Korvane again.</source>
+        <translation>请等待它完成当前操作，或将其结束，然后再次打开 Korvane。</translation>
     </message>
 </context>
 </TS>
