@@ -86,7 +86,8 @@ void KorvaneApp::openMainWindow()
         window->setWindowStates(m_statesWhenClosed & ~Qt::WindowMinimized);
     else
         window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
-    window->show();
+    // Showing it by its own name would make it of ordinary size.
+    window->setVisible(true);
     window->raise();
     window->requestActivate();
 }

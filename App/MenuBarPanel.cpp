@@ -53,8 +53,10 @@ void MenuBarPanel::toggle(const QRect& icon)
 
 void MenuBarPanel::hide()
 {
-    if (m_window != nullptr)
-        m_window->hide();
+    if (m_window == nullptr)
+        return;
+    m_window->hide();
+    m_viewModel.setShown(false);
 }
 
 void MenuBarPanel::makeWindow()
