@@ -46,6 +46,8 @@ public:
     void openMainWindow();
     /// The same with the desktop's permission to be in front (XDG_ACTIVATION_TOKEN), which whoever asks for it has.
     void openMainWindowWith(const QByteArray& activationToken);
+    /// Shows the main window and asks for a scan of the system junk.
+    void scanSystemJunk() { m_menuBarViewModel.scanSystemJunk(); }
     /// Shows the settings window.
     void openSettings();
 
