@@ -2,21 +2,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "App/SingleInstance.h"
+#include "Tests/App/OtherStart.h"
 #include "Tests/Support/TemporaryFolder.h"
 
-#include <QElapsedTimer>
 #include <QLocalSocket>
 #include <QSignalSpy>
 #include <QTest>
 
-#include <atomic>
 #include <fcntl.h>
 #include <optional>
 #include <string>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 
 using namespace Korvane;
@@ -24,34 +22,6 @@ using namespace Korvane;
 namespace {
 
 using Outcome = SingleInstance::Outcome;
-
-/// Another start of the application, which waits on a thread of its own.
-class OtherStart {
-public:
-    OtherStart(const Environment& environment, const std::filesystem::path& runtime, const QByteArray& token = {})
-        : m_thread([this, environment, runtime, token] {
-            SingleInstance instance(environment, runtime, "display");
-            QElapsedTimer timer;
-            timer.start();
-            const Outcome outcome = instance.claim(token);
-            m_milliseconds = timer.elapsed();
-            m_outcome = static_cast<int>(outcome);
-        })
-    {
-    }
-    ~OtherStart() { m_thread.join(); }
-    OtherStart(const OtherStart&) = delete;
-    OtherStart& operator=(const OtherStart&) = delete;
-
-    bool hasEnded() const { return m_outcome >= 0; }
-    Outcome outcome() const { return static_cast<Outcome>(m_outcome.load()); }
-    qint64 milliseconds() const { return m_milliseconds; }
-
-private:
-    std::atomic<qint64> m_milliseconds = 0;
-    std::atomic<int> m_outcome = -1;
-    std::thread m_thread;
-};
 
 QString name(const SingleInstance& instance) { return QString::fromStdString(instance.socket()->native()); }
 

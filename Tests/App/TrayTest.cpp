@@ -1,14 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Korvane authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "App/KorvaneApp.h"
-#include "Tests/App/TrayHost.h"
+#include "Tests/App/TrayFixture.h"
 #include "Tests/Support/Sentinel.h"
-#include "Tests/Support/TestHost.h"
-#include "Tests/UI/Maintenance/HeldProcesses.h"
-#include "Tests/UI/Support/QmlWarnings.h"
-#include "Tests/UI/Support/Screen.h"
-#include "UI/Background.h"
 #include "UI/PreferenceKeys.h"
 
 #include <QApplication>
@@ -16,19 +10,13 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <algorithm>
-
 using namespace Korvane;
 
-/// The application beside a real tray, by a real pointer and keyboard.
-class TrayTest : public QObject {
+/// What the icon in a real tray and its panel do.
+class TrayTest : public TrayFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
-
     void aClickShowsThePanelAtTheIcon();
     void aSecondClickHidesIt();
     void escapeHidesIt();
@@ -45,76 +33,7 @@ private Q_SLOTS:
     void quits();
     void mirrorsForLanguagesFromTheRight();
     void livesOnInTheTrayAndComesBackWhenThatGoes();
-
-private:
-    QQuickWindow* window() const { return m_app->mainWindow(); }
-    QQuickWindow* panel() const { return m_app->panel().window(); }
-    bool isPanelShown() const { return panel() != nullptr && panel()->isVisible() && panel()->isActive(); }
-    void clickIcon(int button = 1) const { TrayHost::click(m_app->trayIcon().geometry().center(), button); }
-    void showPanel() const
-    {
-        clickIcon();
-        QTRY_VERIFY(isPanelShown());
-    }
-    void pressInPanel(const char* name) const;
-    QString focused() const { return accessibleName(panel()->activeFocusItem()); }
-    void closeWindow() const
-    {
-        window()->close();
-        QTRY_VERIFY(!window()->isVisible());
-    }
-
-    TrayHost m_tray;
-    std::unique_ptr<QmlWarnings> m_warnings;
-    std::unique_ptr<TemporaryFolder> m_folder;
-    std::unique_ptr<TestHost> m_test;
-    std::shared_ptr<HeldProcesses> m_processes;
-    std::unique_ptr<KorvaneApp> m_app;
 };
-
-void TrayTest::initTestCase()
-{
-    const QString obstacle = m_tray.start();
-    if (!obstacle.isEmpty())
-        QSKIP(qPrintable(obstacle));
-}
-
-void TrayTest::init()
-{
-    m_warnings = std::make_unique<QmlWarnings>();
-    m_folder = std::make_unique<TemporaryFolder>();
-    m_test = std::make_unique<TestHost>(makeTestHost(*m_folder));
-    m_processes = std::make_shared<HeldProcesses>();
-    m_test->host.processes = m_processes;
-    writeFile(m_test->host.environment.scriptInterpreter, "");
-    m_app = std::make_unique<KorvaneApp>(m_test->host);
-    QVERIFY(m_app->start());
-    QVERIFY(QTest::qWaitForWindowActive(window()));
-    QTRY_VERIFY(m_app->trayIcon().isReachable());
-    QTRY_VERIFY(!m_app->trayIcon().geometry().isEmpty());
-    QRect place;
-    do {
-        place = m_app->trayIcon().geometry();
-        QTest::qWait(200);
-    } while (place != m_app->trayIcon().geometry());
-}
-
-void TrayTest::cleanup()
-{
-    m_app.reset();
-    finishBackgroundWork();
-    const QStringList warnings = m_warnings->texts();
-    m_warnings.reset();
-    QCOMPARE(warnings, QStringList());
-}
-
-void TrayTest::pressInPanel(const char* name) const
-{
-    QQuickItem* row = control(panel(), QString::fromUtf8(name));
-    QVERIFY2(row, name);
-    TrayHost::click(row->mapToGlobal(QPointF(row->width() / 2, row->height() / 2)).toPoint(), 1);
-    QTRY_VERIFY(!panel()->isVisible());
-}
 
 void TrayTest::aClickShowsThePanelAtTheIcon()
 {
