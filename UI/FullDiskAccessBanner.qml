@@ -49,6 +49,7 @@ Item {
                 Layout.fillWidth: true
                 style: Label.Headline
                 text: qsTr("Grant Full Disk Access")
+                Accessible.role: Accessible.Heading
             }
             Label {
                 Layout.fillWidth: true

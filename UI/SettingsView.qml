@@ -34,6 +34,7 @@ Window {
         id: tabs
 
         width: parent.width
+        Accessible.name: window.title
 
         ToolbarTab {
             symbol: "gearshape"

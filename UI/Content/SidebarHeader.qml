@@ -30,6 +30,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         style: Label.Title2
         text: qsTr("Korvane")
+        Accessible.role: Accessible.Heading
     }
     Button {
         id: menuButton
@@ -46,6 +47,8 @@ Item {
 
         Menu {
             id: menu
+
+            title: qsTr("Application menu")
 
             MenuItem {
                 text: qsTr("Settings…")

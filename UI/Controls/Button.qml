@@ -55,6 +55,10 @@ T.Button {
     Keys.onReturnPressed: button.clicked()
     Keys.onEnterPressed: button.clicked()
     Accessible.name: button.text
+    Accessible.onPressAction: {
+        if (button.enabled)
+            button.clicked();
+    }
 
     contentItem: Item {
         implicitWidth: children[0].implicitWidth

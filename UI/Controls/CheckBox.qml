@@ -7,19 +7,32 @@ import QtQuick
 import QtQuick.Templates as T
 import Korvane.UI
 
-/// A check box; with a text beside it, or, in a row, with an accessible name alone.
+/// A check box; with a text beside it, or, in a row, with an accessible name alone. `clicked` is for whoever keeps the
+/// state to change it; the box only shows it.
 T.CheckBox {
     id: control
 
     implicitWidth: indicator.width + (control.text === "" ? 0 : control.spacing + implicitContentWidth)
     implicitHeight: Math.max(24, implicitContentHeight)
     spacing: Theme.spacing
+    nextCheckState: () => control.checkState
     opacity: control.enabled ? 1 : Theme.disabledOpacity
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     font.family: Theme.fontFamily
     font.pixelSize: Theme.body
     Accessible.name: control.text
+    Accessible.checkable: true
+    Accessible.checked: control.checkState === Qt.Checked
+    Accessible.checkStateMixed: control.checkState === Qt.PartiallyChecked
+    Accessible.onPressAction: control.press()
+    Accessible.onToggleAction: control.press()
+
+    /// Does what a press of the pointer does.
+    function press(): void {
+        if (control.enabled)
+            control.clicked();
+    }
 
     indicator: CheckMark {
         y: (control.height - height) / 2

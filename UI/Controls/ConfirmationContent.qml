@@ -50,6 +50,7 @@ FocusScope {
             wrapMode: Text.Wrap
             style: Label.Title2
             text: content.title
+            Accessible.role: Accessible.Heading
         }
         Label {
             Layout.fillWidth: true

@@ -55,4 +55,5 @@ Text {
 
     Accessible.role: Accessible.StaticText
     Accessible.name: label.text
+    Accessible.ignored: label.text === ""
 }

@@ -31,6 +31,8 @@ T.Menu {
         currentIndex: menu.currentIndex
         interactive: Window.window ? contentHeight > Window.window.height : false
         clip: true
+        Accessible.role: Accessible.PopupMenu
+        Accessible.name: menu.title
     }
 
     background: Item {

@@ -26,6 +26,11 @@ T.MenuItem {
     font.family: Theme.fontFamily
     font.pixelSize: Theme.body
     Accessible.name: item.text
+    Accessible.description: item.keys
+    Accessible.onPressAction: {
+        if (item.enabled)
+            item.clicked();
+    }
 
     readonly property color ink: item.highlighted ? Theme.onAccent : Theme.label
 

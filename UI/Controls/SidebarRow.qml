@@ -21,10 +21,11 @@ T.AbstractButton {
     focusPolicy: Qt.StrongFocus
     Keys.onReturnPressed: row.clicked()
     Keys.onEnterPressed: row.clicked()
-    Accessible.role: Accessible.ListItem
+    Accessible.role: Accessible.Button
     Accessible.name: row.text
     Accessible.selectable: true
     Accessible.selected: row.selected
+    Accessible.onPressAction: row.clicked()
 
     contentItem: Item {
         Symbol {

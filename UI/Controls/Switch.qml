@@ -19,6 +19,18 @@ T.Switch {
     font.family: Theme.fontFamily
     font.pixelSize: Theme.body
     Accessible.name: control.text
+    Accessible.checkable: true
+    Accessible.checked: control.checked
+    Accessible.onPressAction: control.press()
+    Accessible.onToggleAction: control.press()
+
+    /// Does what a press of the pointer does.
+    function press(): void {
+        if (!control.enabled)
+            return;
+        control.toggle();
+        control.toggled();
+    }
 
     indicator: Rectangle {
         x: control.mirrored ? 0 : control.width - width

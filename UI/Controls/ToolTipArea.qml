@@ -56,6 +56,8 @@ Item {
                 font.pixelSize: Theme.caption
                 color: Theme.label
                 wrapMode: Text.Wrap
+                Accessible.role: Accessible.ToolTip
+                Accessible.name: tip.text
             }
             background: Rectangle {
                 radius: Theme.radiusSmall

@@ -20,7 +20,9 @@ T.TabButton {
     focusPolicy: Qt.StrongFocus
     Accessible.name: tab.text
     Accessible.role: Accessible.PageTab
-    Accessible.checked: tab.checked
+    Accessible.selectable: true
+    Accessible.selected: tab.checked
+    Accessible.onPressAction: tab.toggle()
 
     readonly property color ink: tab.checked ? Theme.linkLabel : Theme.secondaryLabel
 
@@ -40,7 +42,7 @@ T.TabButton {
             textFormat: Text.PlainText
             font.family: Theme.fontFamily
             font.pixelSize: Theme.caption
-            font.weight: Font.Medium
+            font.weight: tab.checked ? Font.Bold : Font.Medium
             color: tab.ink
             Accessible.ignored: true
         }

@@ -29,6 +29,7 @@ T.AbstractButton {
     Keys.onEnterPressed: card.clicked()
     Accessible.name: card.module.title
     Accessible.description: card.module.subtitle
+    Accessible.onPressAction: card.clicked()
 
     Behavior on growth {
         NumberAnimation {

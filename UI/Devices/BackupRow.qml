@@ -8,7 +8,7 @@ import QtQuick.Templates as T
 import Korvane.UI
 
 /// One backup: whose it is, of which system and day, and its size. Return, Space and Delete ask to remove it.
-T.Control {
+T.ItemDelegate {
     id: row
 
     required property int index
@@ -35,14 +35,11 @@ T.Control {
     Accessible.focusable: true
     Accessible.focused: row.activeFocus
     Accessible.onPressAction: row.removalRequested()
+    onPressed: row.pointed()
     Keys.onReturnPressed: row.removalRequested()
     Keys.onEnterPressed: row.removalRequested()
     Keys.onSpacePressed: row.removalRequested()
     Keys.onDeletePressed: row.removalRequested()
-
-    TapHandler {
-        onTapped: row.pointed()
-    }
 
     contentItem: BackupRowContent {
         name: row.name

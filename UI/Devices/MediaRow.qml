@@ -8,7 +8,7 @@ import QtQuick.Templates as T
 import Korvane.UI
 
 /// A folder of the camera roll, which a press opens or closes, or one of its files, which a press ticks.
-T.ItemDelegate {
+T.CheckDelegate {
     id: row
 
     required property int index
@@ -50,11 +50,16 @@ T.ItemDelegate {
     rightPadding: row.mirrored ? row.startPadding : Theme.spacingHuge
     hoverEnabled: true
     text: row.name
-    Accessible.role: row.isFolder ? Accessible.Button : Accessible.CheckBox
+    tristate: true
+    checkState: row.ticks
+    nextCheckState: () => row.ticks
+    // Of a folder too: what is ticked in it is what is to be known first. A press opens it, toggling ticks.
+    Accessible.role: Accessible.CheckBox
     Accessible.name: row.name
     Accessible.description: !row.isFolder ? "" : row.count + ", " + (row.open ? qsTr("open") : qsTr("closed"))
-    Accessible.checkable: !row.isFolder
+    Accessible.checkable: true
     Accessible.checked: row.ticks === Qt.Checked
+    Accessible.checkStateMixed: row.ticks === Qt.PartiallyChecked
     Accessible.focusable: true
     Accessible.focused: row.activeFocus
     Accessible.onPressAction: row.act()

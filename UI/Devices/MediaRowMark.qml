@@ -41,11 +41,8 @@ Item {
         focusPolicy: Qt.NoFocus
         tristate: true
         checkState: mark.ticks
-        nextCheckState: () => {
-            mark.tickRequested();
-            return mark.ticks;
-        }
         onPressed: mark.boxPressed()
+        onClicked: mark.tickRequested()
         Accessible.name: mark.name
     }
     CheckMark {

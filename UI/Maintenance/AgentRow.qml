@@ -9,7 +9,7 @@ import Korvane.UI
 
 /// One background item: its label over what it runs, and for whom. Return, Space and Delete ask to remove it, if it may
 /// be removed.
-T.Control {
+T.ItemDelegate {
     id: row
 
     required property int index

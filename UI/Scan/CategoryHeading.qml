@@ -57,10 +57,9 @@ Item {
         focusPolicy: Qt.NoFocus
         tristate: true
         checkState: heading.ticks
-        nextCheckState: () => {
+        onClicked: {
             heading.rows.toggleCategory(heading.section);
             heading.refresh();
-            return heading.ticks;
         }
         Accessible.name: heading.category.title
     }

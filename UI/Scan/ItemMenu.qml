@@ -6,7 +6,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Korvane.UI
 
-/// What can be done with one found item besides cleaning it.
+/// What can be done with one found item besides cleaning it; its title is the item's name.
 Menu {
     id: menu
 

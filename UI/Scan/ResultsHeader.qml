@@ -33,6 +33,7 @@ Item {
             font.pixelSize: Theme.figure
             font.weight: Font.Bold
             font.letterSpacing: Theme.figureTracking
+            Accessible.role: Accessible.Heading
             Accessible.name: selected.finalText
         }
         Label {

@@ -15,8 +15,9 @@ KeyboardList {
     /// Makes the headings. Not to be created in this file: when Qt 6.4 uses a heading again it looks for "section" in the
     /// context of the component, finds the list's own there, and leaves the heading with the title of another category.
     required property Component heading
-    function openMenu(itemId: string, place: Item, x: real, y: real) {
+    function openMenu(itemId: string, name: string, place: Item, x: real, y: real) {
         menu.itemId = itemId;
+        menu.title = name;
         menu.parent = place;
         menu.popup(place, x, y);
     }
@@ -54,7 +55,7 @@ KeyboardList {
         onMenuRequested: (x, y) => {
             list.currentIndex = index;
             list.forceActiveFocus();
-            list.openMenu(itemId, this, x, y);
+            list.openMenu(itemId, name, this, x, y);
         }
     }
 

@@ -30,6 +30,7 @@ Item {
             horizontalAlignment: Text.AlignHCenter
             style: Label.Title
             text: qsTr("Korvane")
+            Accessible.role: Accessible.Heading
         }
         Label {
             width: parent.width

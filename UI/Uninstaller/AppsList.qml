@@ -96,6 +96,13 @@ ListView {
         }
     }
 
+    // Without a selected row there is none to show that the keyboard is here.
+    FocusRing {
+        parent: list
+        anchors.margins: 3
+        shown: list.activeFocus && list.currentIndex < 0
+    }
+
     delegate: AppRow {
         width: list.width
         height: list.rowHeight

@@ -46,6 +46,12 @@ void ScanScreenFixture::init()
     m_folder = std::make_unique<TemporaryFolder>();
     m_test = std::make_unique<TestHost>(makeTestHost(*m_folder));
     m_sentinel = std::make_unique<Sentinel>(home() / "Documents/letter.txt");
+    startApplication();
+}
+
+void ScanScreenFixture::startApplication()
+{
+    m_app.reset();
     m_app = std::make_unique<KorvaneApp>(m_test->host);
     QVERIFY(m_app->start());
     QVERIFY(QTest::qWaitForWindowExposed(window()));

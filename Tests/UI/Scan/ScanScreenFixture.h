@@ -51,6 +51,8 @@ protected:
     /// Presses Tab until the control has the focus.
     void tabTo(const char* name) const;
 
+    /// Begins anew on the host as it is now.
+    void startApplication();
     void makeCaches() const;
     /// Opens System Junk and scans until something is found.
     void scan() const;
