@@ -179,6 +179,17 @@
     </message>
 </context>
 <context>
+    <name>Button</name>
+    <message>
+        <source>Unavailable</source>
+        <translation>Nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>%1, unavailable</source>
+        <translation>%1, nicht verfügbar</translation>
+    </message>
+</context>
+<context>
     <name>Categories</name>
     <message>
         <source>User Caches</source>

@@ -179,6 +179,17 @@
     </message>
 </context>
 <context>
+    <name>Button</name>
+    <message>
+        <source>Unavailable</source>
+        <translation>No disponible</translation>
+    </message>
+    <message>
+        <source>%1, unavailable</source>
+        <translation>%1, no disponible</translation>
+    </message>
+</context>
+<context>
     <name>Categories</name>
     <message>
         <source>User Caches</source>

@@ -179,6 +179,17 @@
     </message>
 </context>
 <context>
+    <name>Button</name>
+    <message>
+        <source>Unavailable</source>
+        <translation>Indisponible</translation>
+    </message>
+    <message>
+        <source>%1, unavailable</source>
+        <translation>%1, indisponible</translation>
+    </message>
+</context>
+<context>
     <name>Categories</name>
     <message>
         <source>User Caches</source>

@@ -22,6 +22,8 @@ T.Button {
     property bool large: false
     /// The name of the symbol before the text; empty for none.
     property string symbol: ""
+    /// What a screen reader says besides the name.
+    property string remark: ""
     /// What a prominent button is filled with; white must be readable on it.
     property color tint: Theme.prominentFill
 
@@ -55,6 +57,9 @@ T.Button {
     Keys.onReturnPressed: button.clicked()
     Keys.onEnterPressed: button.clicked()
     Accessible.name: button.text
+    // By itself Qt does not tell that it cannot be pressed now.
+    Accessible.description: button.enabled ? button.remark
+        : button.remark === "" ? qsTr("Unavailable") : qsTr("%1, unavailable").arg(button.remark)
     Accessible.onPressAction: {
         if (button.enabled)
             button.clicked();

@@ -58,7 +58,7 @@ Item {
         focus: heading.refreshable
         symbol: "arrow.clockwise"
         text: qsTr("Refresh")
-        Accessible.description: heading.title
+        remark: heading.title
         onClicked: heading.refreshRequested()
     }
 }

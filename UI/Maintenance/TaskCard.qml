@@ -78,7 +78,7 @@ Card {
                 tint: Theme.greenFill
                 text: qsTr("Run")
                 enabled: card.runnable
-                Accessible.description: card.title
+                remark: card.title
                 onClicked: card.runRequested()
             }
         }

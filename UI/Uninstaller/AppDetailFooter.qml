@@ -48,7 +48,7 @@ FocusScope {
         symbol: "trash"
         text: qsTr("Uninstall")
         enabled: !footer.viewModel.selectedRunning
-        Accessible.description: footer.viewModel.selected.note
+        remark: footer.viewModel.selected.note
         onClicked: footer.uninstallRequested()
     }
 }

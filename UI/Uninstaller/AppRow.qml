@@ -41,6 +41,7 @@ T.ItemDelegate {
         leftoversText: row.leftoversText
         size: row.size
         iconSource: row.iconSource
+        selected: row.selected
     }
 
     background: Item {

@@ -14,6 +14,7 @@ Item {
     required property string leftoversText
     required property string size
     required property string iconSource
+    required property bool selected
 
     AppIcon {
         id: icon
@@ -44,7 +45,7 @@ Item {
 
         Label {
             width: parent.width
-            font.weight: Font.Medium
+            font.weight: content.selected ? Font.Bold : Font.Medium
             elide: Text.ElideMiddle
             text: content.name
             Accessible.ignored: true

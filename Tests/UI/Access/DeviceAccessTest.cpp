@@ -92,6 +92,7 @@ void DeviceAccessTest::theQuestions()
 void DeviceAccessTest::whatCameOfAnExport()
 {
     const StandInDevices devices = phone();
+    std::filesystem::create_directories(home() / "Downloads");
     open();
     QTRY_VERIFY(folderBox("100APPLE"));
     pressItem(folderBox("100APPLE"));

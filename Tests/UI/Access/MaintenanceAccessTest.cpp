@@ -40,6 +40,10 @@ void MaintenanceAccessTest::tasksInEveryState()
     interpreter.tell("dscacheutil", "echo 'User canceled. (-128)' >&2; exit 1");
     interpreter.tell("purge", "exit 0");
     QTRY_VERIFY(shows("User canceled. (-128)") && shows("Done"));
+    // Not by colour alone: each has its sign.
+    const auto card = [&](int index) { return shapesOf(runButton(index)->parentItem()); };
+    QVERIFY(card(0).contains(QStringLiteral("checkmark.circle.fill")));
+    QVERIFY(card(1).contains(QStringLiteral("exclamationmark.triangle.fill")));
     checkAccess(window(), "tasks that were run");
 }
 

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void largeFilesAndDuplicates_data();
     void largeFilesAndDuplicates();
     void everythingIsPressedWithoutPointerAndKeys();
+    void nothingIsToldByColourAlone();
 
 private:
     static void act(QQuickItem* item, const QString& action = QAccessibleActionInterface::pressAction());
@@ -208,6 +209,28 @@ void ScanAccessTest::everythingIsPressedWithoutPointerAndKeys()
     act(named("Move to Trash"));
     QTRY_VERIFY(named("Scan Again"));
     QVERIFY(fs::exists(trashed("org.example.mail/index")));
+}
+
+void ScanAccessTest::nothingIsToldByColourAlone()
+{
+    makeCaches();
+    const QStringList module = shapesOf(named("System Junk"));
+    scan();
+    QVERIFY(shapesOf(named("System Junk")) != module);
+    QTRY_VERIFY(heading("Log Files"));
+    // A press leaves the pointer, and with it what shows where that is, on the row: both times.
+    pressRow("example.log");
+    QTRY_VERIFY(tick("example.log") == Tick::Off);
+    const QStringList untickedRow = shapesOf(row("example.log"));
+    const QStringList untickedHeading = shapesOf(heading("Log Files"));
+    const QStringList mixedHeading = shapesOf(heading("User Caches"));
+    pressRow("example.log");
+    QTRY_VERIFY(tick("example.log") == Tick::On);
+    QVERIFY(shapesOf(row("example.log")) != untickedRow);
+    QVERIFY(shapesOf(heading("Log Files")) != untickedHeading);
+    QVERIFY(shapesOf(heading("Log Files")) != mixedHeading && untickedHeading != mixedHeading);
+    // What is in use is told by a sign of its own.
+    QVERIFY(shapesOf(row("com.apple.thumbnails")).contains(QStringLiteral("exclamationmark.shield")));
 }
 
 QTEST_MAIN(ScanAccessTest)

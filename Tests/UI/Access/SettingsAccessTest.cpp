@@ -18,6 +18,7 @@ private Q_SLOTS:
     void thePreferences_data();
     void thePreferences();
     void about();
+    void nothingIsToldByColourAlone();
     void switchesAndTabsArePressedWithoutPointerAndKeys();
 
 private:
@@ -76,6 +77,26 @@ void SettingsAccessTest::switchesAndTabsArePressedWithoutPointerAndKeys()
     QVERIFY(m_test->host.defaults->boolForKey(key, false));
     act("About", QAccessibleActionInterface::pressAction());
     QTRY_VERIFY(visibleTexts(settings).contains(utf8("Keep your Mac and iOS devices clean and fast.")));
+}
+
+void SettingsAccessTest::nothingIsToldByColourAlone()
+{
+    QQuickWindow* settings = openSettings();
+    QVERIFY(settings != nullptr);
+    QQuickItem* toggle = control(settings, utf8("Move files to Trash instead of deleting"));
+    const QStringList on = shapesOf(toggle);
+    click(toggle);
+    QTRY_VERIFY(shapesOf(toggle) != on);
+    const QStringList granted = shapesOf(settings->contentItem());
+    writeFile(home() / "Library/Safari", "");
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive);
+    QTRY_VERIFY(control(settings, utf8("Grant…")));
+    const QStringList missing = shapesOf(settings->contentItem());
+    QVERIFY(granted.contains(QStringLiteral("checkmark.circle.fill")));
+    QVERIFY(missing.contains(QStringLiteral("exclamationmark.triangle.fill")));
+    const QStringList tab = shapesOf(control(settings, utf8("About")));
+    click(control(settings, utf8("About")));
+    QTRY_VERIFY(shapesOf(control(settings, utf8("About"))) != tab);
 }
 
 QTEST_MAIN(SettingsAccessTest)

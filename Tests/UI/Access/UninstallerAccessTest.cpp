@@ -5,6 +5,7 @@
 #include "Tests/UI/Scan/GatedFileManager.h"
 #include "Tests/UI/Scan/ScanScreenFixture.h"
 #include "Tests/UI/Support/AccessibleChecks.h"
+#include "Tests/UI/Support/AccessibleTree.h"
 
 #include <QTest>
 #include <QThread>
@@ -49,6 +50,7 @@ private:
     void installThree() const;
     void scanApps() const;
     void select(const char* name) const;
+    QQuickItem* appRow(const char* name) const;
 };
 
 void UninstallerAccessTest::install(const std::string& name, const std::string& identifier) const
@@ -82,6 +84,15 @@ void UninstallerAccessTest::select(const char* name) const
     key(Qt::Key_Escape);
 }
 
+QQuickItem* UninstallerAccessTest::appRow(const char* name) const
+{
+    for (const AccessibleNode& node : AccessibleTree(window()).nodes()) {
+        if (node.item->inherits("QQuickItemDelegate") && node.name() == utf8(name))
+            return node.item;
+    }
+    return nullptr;
+}
+
 void UninstallerAccessTest::beforeTheScan()
 {
     press("Uninstaller");
@@ -106,7 +117,11 @@ void UninstallerAccessTest::theListWithoutAndWithOneSelected()
     installThree();
     scanApps();
     checkAccess(window(), "applications of which none is selected");
+    QVERIFY(appRow("Notes") != nullptr);
+    const QStringList unselected = shapesOf(appRow("Notes"));
     select("Notes");
+    // Not by colour alone.
+    QTRY_VERIFY(shapesOf(appRow("Notes")) != unselected);
     checkAccess(window(), "applications of which one is selected");
 }
 

@@ -19,7 +19,7 @@ QQuickItem* itemIn(QQuickItem* item, const char* kind, const QString& name, cons
         return nullptr;
     if (item->inherits(kind) && accessibleName(item) == name) {
         const QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(item);
-        if (description.isEmpty() || interface->text(QAccessible::Description) == description)
+        if (description.isEmpty() || interface->text(QAccessible::Description).startsWith(description))
             return item;
     }
     for (QQuickItem* child : item->childItems()) {

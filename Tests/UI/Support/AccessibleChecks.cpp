@@ -82,6 +82,9 @@ void checkActive(const AccessibleTree& tree, const AccessibleNode& node, QString
         problems.append(QStringLiteral("has a role that does not fit: ") + node.title());
     for (const QString& missing : missingStates(tree, node))
         problems.append(QStringLiteral("is not told to be %1: ").arg(missing) + node.title());
+    if (!node.item->isEnabled() && !node.state().disabled
+        && !node.description().contains(QStringLiteral("unavailable"), Qt::CaseInsensitive))
+        problems.append(QStringLiteral("does not tell that it is of no use now: ") + node.title());
     // Qt offers the press of some roles by itself, but does nothing for it.
     const bool isOffered = node.role() == QAccessible::PushButton || node.role() == QAccessible::CheckBox;
     const auto presses = node.actions().count(QAccessibleActionInterface::pressAction());

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QStringList>
 
@@ -20,6 +21,10 @@ QStringList accessibleProblems(QQuickWindow* window);
 /// Tab leads once to whatever takes the keyboard, in the order in which it is read, and back to the first; Shift and
 /// Tab the other way; and whatever has the keyboard is drawn differently.
 QStringList keyboardProblems(QQuickWindow* window);
+
+/// What an item is drawn of, without the colours and without what only shows where the keyboard is: two states that
+/// differ in nothing here are told apart by colour alone.
+QStringList shapesOf(const QQuickItem* item);
 
 /// Waits until nothing moves any more, and fails the running test with both kinds of problems. `state` is what the
 /// window shows, for the message.
