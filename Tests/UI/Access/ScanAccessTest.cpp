@@ -90,6 +90,7 @@ void ScanAccessTest::theResultsPartlyChosen()
     QTRY_VERIFY(tick("org.example.mail") == Tick::Off);
     QVERIFY(QAccessible::queryAccessibleInterface(heading("User Caches"))->state().checkStateMixed);
     checkAccess(window(), "results of which some are chosen");
+    press("Select All");
     press("Deselect All");
     QTRY_VERIFY(!named("Clean")->isEnabled());
     checkAccess(window(), "results of which none is chosen");

@@ -86,7 +86,8 @@ void UninstallerAccessTest::select(const char* name) const
 
 QQuickItem* UninstallerAccessTest::appRow(const char* name) const
 {
-    for (const AccessibleNode& node : AccessibleTree(window()).nodes()) {
+    const AccessibleTree tree(window());
+    for (const AccessibleNode& node : tree.nodes()) {
         if (node.item->inherits("QQuickItemDelegate") && node.name() == utf8(name))
             return node.item;
     }
