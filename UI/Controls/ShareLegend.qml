@@ -52,6 +52,7 @@ Flow {
             text: entry.title
             Accessible.name: entry.title
             Accessible.description: entry.size
+            Accessible.onPressAction: legend.chosen(entry.firstRow, true)
             onClicked: legend.chosen(entry.firstRow, entry.visualFocus)
             onActiveFocusChanged: {
                 if (entry.activeFocus)
