@@ -99,7 +99,7 @@ ListView {
     // Without a selected row there is none to show that the keyboard is here.
     FocusRing {
         parent: list
-        anchors.margins: 3
+        anchors.margins: Theme.focusRingWidth
         shown: list.activeFocus && list.currentIndex < 0
     }
 
