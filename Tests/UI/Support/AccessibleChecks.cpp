@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <algorithm>
 #include <functional>
 
 namespace Korvane {
@@ -108,10 +109,12 @@ void checkPassive(const AccessibleNode& node, QStringList& problems)
         problems.append(QStringLiteral("does not tell what it shows: ") + node.title());
 }
 
+// Nobody hears capitals.
 bool says(const AccessibleNode& node, const QString& text)
 {
-    return node.name().contains(text) || node.description().contains(text)
-        || spoken(node.interface->text(QAccessible::Value)).contains(text);
+    const QStringList heard{ node.name(), node.description(), spoken(node.interface->text(QAccessible::Value)) };
+    return std::any_of(
+        heard.begin(), heard.end(), [&](const QString& words) { return words.contains(text, Qt::CaseInsensitive); });
 }
 
 bool isRead(const AccessibleTree& tree, const QQuickItem* item, const QString& text)
