@@ -55,6 +55,8 @@ Window {
         }
     }
 
+    HeldKeys {
+    }
     GradientFill {
         anchors.fill: parent
         colors: Theme.windowBackground

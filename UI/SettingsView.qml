@@ -30,6 +30,8 @@ Window {
         sequences: ["Ctrl+W", "Escape"]
         onActivated: window.close()
     }
+    HeldKeys {
+    }
     ToolbarTabs {
         id: tabs
 

@@ -69,10 +69,7 @@ T.CheckDelegate {
     Keys.onEnterPressed: row.act()
     Keys.onRightPressed: row.step(!row.mirrored)
     Keys.onLeftPressed: row.step(row.mirrored)
-    Keys.onSpacePressed: event => {
-        if (!event.isAutoRepeat)
-            row.tickRequested();
-    }
+    Keys.onSpacePressed: row.tickRequested()
 
     indicator: MediaRowMark {
         x: row.mirrored ? row.width - width : 0

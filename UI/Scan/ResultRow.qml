@@ -64,15 +64,14 @@ T.CheckDelegate {
             row.menuRequested(row.leftPadding, row.height);
             event.accepted = true;
         } else if (event.key === Qt.Key_Space && event.modifiers === Qt.ShiftModifier) {
-            if (!event.isAutoRepeat)
-                row.categoryToggled();
+            row.categoryToggled();
             row.togglesCategory = true;
             event.accepted = true;
         }
     }
     Keys.onReleased: event => {
         event.accepted = event.key === Qt.Key_Space && row.togglesCategory;
-        if (event.accepted && !event.isAutoRepeat)
+        if (event.accepted)
             row.togglesCategory = false;
     }
 

@@ -6,6 +6,8 @@
 #include "UI/Background.h"
 
 #include <QAccessible>
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QTest>
 
 namespace Korvane {
@@ -99,6 +101,25 @@ void ScanScreenFixture::pressHeading(const char* category) const
 void ScanScreenFixture::key(Qt::Key key, Qt::KeyboardModifiers modifiers) const
 {
     QTest::keyClick(window(), key, modifiers);
+}
+
+void ScanScreenFixture::hold(Qt::Key key, QWindow* other) const
+{
+    QWindow* target = other ? other : window();
+    // Those that are not letters have a number beyond all letters.
+    const QString text = key < 0x100 ? QString(QChar(key)) : QString();
+    const auto send = [&](QEvent::Type type, bool repeated) {
+        QKeyEvent event(type, key, Qt::NoModifier, text, repeated);
+        QCoreApplication::sendEvent(target, &event);
+    };
+    send(QEvent::KeyPress, false);
+    for (int repetition = 0; repetition < 4; ++repetition) {
+        // A dialog that the press has opened is up by then.
+        QTest::qWait(60);
+        send(QEvent::KeyRelease, true);
+        send(QEvent::KeyPress, true);
+    }
+    send(QEvent::KeyRelease, false);
 }
 
 void ScanScreenFixture::tabTo(const char* name) const

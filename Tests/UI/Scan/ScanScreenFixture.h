@@ -48,6 +48,8 @@ protected:
     void pressRow(const char* name) const;
     void pressHeading(const char* category) const;
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+    /// Presses a key in a window, the main one if there is no other, until it has repeated itself four times.
+    void hold(Qt::Key key, QWindow* window = nullptr) const;
     /// Presses Tab until the control has the focus.
     void tabTo(const char* name) const;
 
