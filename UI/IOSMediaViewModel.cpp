@@ -76,6 +76,8 @@ IOSMediaViewModel::IOSMediaViewModel(
 {
     connect(&m_rows, &MediaTreeModel::selectionChanged, this, &IOSMediaViewModel::selectionChanged);
     connect(&m_rows, &MediaTreeModel::selectionChanged, this, &IOSMediaViewModel::readyChanged);
+    connect(&m_rows, &MediaTreeModel::modelAboutToBeReset, this, &IOSMediaViewModel::listingChanging);
+    connect(&m_rows, &MediaTreeModel::listingReplaced, this, &IOSMediaViewModel::listingChanged);
     connect(m_work.get(), &DeviceWork::mediaDeleted, this, &IOSMediaViewModel::finishDeletion);
     // One that a screen before this had begun.
     if (const auto deletion = m_work->deletionOn(m_udid))

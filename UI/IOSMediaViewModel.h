@@ -82,6 +82,9 @@ public:
 Q_SIGNALS:
     void phaseChanged();
     void progressChanged();
+    /// The rows are about to show another listing, and do then, while they still tell which row was where.
+    void listingChanging();
+    void listingChanged();
     void deviceNameChanged();
     void selectionChanged();
     void readyChanged();

@@ -189,4 +189,6 @@ QtObject {
     readonly property int pulsePeriod: 2400
     readonly property int spinnerStep: 80
     readonly property int toolTipDelay: 600
+    /// What is laid out anew has its place by then.
+    readonly property int layoutDelay: 50
 }

@@ -25,10 +25,23 @@ Item {
         const list = reveal.listWithin(control.ListView.view);
         if (!control.visualFocus && (list === null || !list.byKeyboard))
             return;
-        const page = reveal.page;
         const shown = list !== null ? list : control;
-        const top = shown.mapToItem(page.contentItem, 0, 0).y - Theme.spacingHuge;
-        const bottom = top + shown.height + (list !== null ? list.below : 0) + 2 * Theme.spacingHuge;
+        const top = shown.mapToItem(reveal.page.contentItem, 0, 0).y - Theme.spacingHuge;
+        reveal.scrollTo(top, top + shown.height + (list !== null ? list.below : 0) + 2 * Theme.spacingHuge);
+    }
+    /// Scrolls no further than to see all of an item of the page.
+    function bring(item: Item): void {
+        const top = item.mapToItem(reveal.page.contentItem, 0, 0).y - Theme.spacingHuge;
+        reveal.scrollTo(top, top + item.height + 2 * Theme.spacingHuge);
+    }
+    /// Whether anything of an item of the page is to be seen.
+    function sees(item: Item): bool {
+        const top = item.mapToItem(reveal.page, 0, 0).y;
+        return item.visible && top < reveal.page.height && top + item.height > 0;
+    }
+    /// To see what is between two heights of the page.
+    function scrollTo(top: real, bottom: real): void {
+        const page = reveal.page;
         const seen = Math.min(Math.max(page.contentY, bottom - page.height), top);
         const last = page.originY + page.contentHeight + page.bottomMargin - page.height;
         page.contentY = Math.max(page.originY - page.topMargin, Math.min(seen, last));

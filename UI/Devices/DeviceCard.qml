@@ -48,26 +48,26 @@ Column {
             description: part.missing ? part.viewModel.toolsHint
                                       : qsTr("Connect an iPhone or iPad with a cable and tap Trust on the device.")
         }
-        ListView {
+        KeyboardList {
             id: devices
 
             readonly property int mostRows: 4
-            readonly property int rowHeight: Metrics.deviceRowHeight
+            readonly property bool scrolls: devices.count > devices.mostRows
 
             width: parent.width
-            // More than hang on cables at once are scrolled through.
+            // More than hang on cables at once are scrolled through; with fewer there is nothing to do here.
             height: Math.min(devices.count, devices.mostRows) * devices.rowHeight
             visible: part.found === IOSDeviceViewModel.Devices
-            interactive: devices.count > devices.mostRows
-            clip: true
-            boundsBehavior: Flickable.StopAtBounds
+            interactive: devices.scrolls
+            activeFocusOnTab: devices.scrolls
+            rowHeight: Metrics.deviceRowHeight
             model: part.viewModel.deviceRows
-            Accessible.role: Accessible.List
             Accessible.name: qsTr("Connected devices")
 
             delegate: DeviceRow {
                 width: devices.width
                 height: devices.rowHeight
+                showsFocus: devices.byKeyboard
                 accent: Theme.accent(part.viewModel.module.accent)
             }
         }

@@ -25,7 +25,19 @@ Flickable {
     T.ScrollBar.vertical: ScrollBar { }
 
     FocusReveal {
+        id: reveal
+
         page: page
+    }
+    // Once it has its place, which takes a frame.
+    Timer {
+        id: settling
+
+        interval: Theme.layoutDelay
+        onTriggered: {
+            if (slot.section !== null)
+                reveal.bring(slot.section.statusLine);
+        }
     }
     SteadyScope {
         id: scope
@@ -76,6 +88,9 @@ Flickable {
                         "viewModel": media
                     }) as MediaSection;
                     if (previous !== null) {
+                        // A dialog takes the keyboard with it that it has.
+                        if (previous.asking)
+                            scope.forceActiveFocus(Qt.OtherFocusReason);
                         previous.visible = false;
                         previous.destroy();
                     }
@@ -91,6 +106,15 @@ Flickable {
 
                     function onMediaChanged(): void {
                         slot.renew();
+                    }
+                }
+                // What is begun is told where it is seen; what has come of it, where the other still is.
+                Connections {
+                    target: page.viewModel.media
+
+                    function onStatusMessageChanged(): void {
+                        if (page.viewModel.media.working || reveal.sees(slot.section.statusLine))
+                            settling.restart();
                     }
                 }
                 Component {

@@ -15,6 +15,9 @@ Column {
     /// Whether there is anything to be ticked.
     required property bool offered
 
+    /// What is said under the buttons.
+    readonly property Item statusLine: line
+
     signal deletionRequested
 
     visible: actions.offered || actions.viewModel.statusMessage !== ""
@@ -47,6 +50,8 @@ Column {
         }
     }
     RowLayout {
+        id: line
+
         width: parent.width
         visible: actions.viewModel.statusMessage !== ""
         spacing: Theme.spacing

@@ -15,6 +15,9 @@ SteadyScope {
     /// How high its list may become.
     required property real tallest
 
+    readonly property Item statusLine: actions.statusLine
+    /// Whether the user is asked about a deletion, or has just been.
+    readonly property bool asking: confirmation.visible
     readonly property int phase: section.viewModel.phase
     readonly property bool browsable: section.phase === IOSMediaViewModel.Loaded && !section.viewModel.empty
     /// Whether the keyboard goes to the list once there is one again.
@@ -67,7 +70,10 @@ SteadyScope {
         }
         Card {
             width: parent.width
-            height: section.browsable ? browser.height : Metrics.tallRowHeight
+            // While it is read again it takes the place that it had, so that nothing moves.
+            height: section.browsable ? browser.height
+                : section.phase !== IOSMediaViewModel.Loading || browser.count === 0 ? Metrics.tallRowHeight
+                : browser.height + Theme.spacing + Metrics.controlHeight
             radius: Theme.radiusLarge
 
             BusyLine {
@@ -92,9 +98,12 @@ SteadyScope {
                 visible: section.browsable
                 viewModel: section.viewModel
                 tallest: section.tallest
+                below: column.spacing + actions.height
             }
         }
         MediaActions {
+            id: actions
+
             width: parent.width
             offered: section.browsable
             viewModel: section.viewModel

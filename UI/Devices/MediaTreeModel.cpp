@@ -37,11 +37,51 @@ void MediaTreeModel::setListing(std::shared_ptr<const MediaListing> listing)
         if (wereOpen.count(folders[folder].path) > 0)
             m_open[folder] = true;
     }
-    m_listing.swap(listing);
+    m_former = { std::exchange(m_listing, std::move(listing)), m_rows };
     placeRows(0);
     endResetModel();
-    releaseInBackground(std::move(listing));
+    Q_EMIT listingReplaced();
+    releaseInBackground(std::exchange(m_former, {}).listing);
     Q_EMIT selectionChanged();
+}
+
+int MediaTreeModel::rowNow(int former) const
+{
+    const int count = m_former.rows.empty() ? 0 : m_former.rows.back();
+    if (former < 0 || former >= count)
+        return -1;
+    for (int row = former; row < count; ++row) {
+        if (const auto now = rowOfFormer(row))
+            return *now;
+    }
+    for (int row = former - 1; row >= 0; --row) {
+        if (const auto now = rowOfFormer(row))
+            return *now;
+    }
+    return -1;
+}
+
+std::optional<int> MediaTreeModel::rowOfFormer(int row) const
+{
+    const Position position = positionOf(m_former.rows, row);
+    const IOSMediaFolder& folder = m_former.listing->folders()[position.folder];
+    if (position.file >= 0) {
+        const auto place = m_listing->find(folder.files[static_cast<std::size_t>(position.file)].path);
+        return place && m_open[place->folder] ? std::optional(m_rows[place->folder] + 1 + static_cast<int>(place->file))
+                                              : std::nullopt;
+    }
+    const std::vector<IOSMediaFolder>& folders = m_listing->folders();
+    const auto isSame = [&](const IOSMediaFolder& other) { return other.path == folder.path; };
+    const auto found = std::find_if(folders.begin(), folders.end(), isSame);
+    return found == folders.end() ? std::nullopt
+                                  : std::optional(m_rows[static_cast<std::size_t>(found - folders.begin())]);
+}
+
+MediaTreeModel::Position MediaTreeModel::positionOf(const std::vector<int>& rows, int row)
+{
+    const auto after = std::upper_bound(rows.begin(), rows.end() - 1, row);
+    const auto folder = static_cast<std::size_t>(after - rows.begin()) - 1;
+    return { folder, row - rows[folder] - 1 };
 }
 
 void MediaTreeModel::placeRows(std::size_t firstFolder)
@@ -134,11 +174,9 @@ QVariant MediaTreeModel::data(const QModelIndex& index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const auto after = std::upper_bound(m_rows.begin(), m_rows.end() - 1, index.row());
-    const auto folder = static_cast<std::size_t>(after - m_rows.begin()) - 1;
+    const auto [folder, file] = positionOf(m_rows, index.row());
     if (role == FolderRole)
         return static_cast<int>(folder);
-    const int file = index.row() - m_rows[folder] - 1;
     if (role == FileRole)
         return file;
     return file < 0 ? folderData(folder, role) : fileData({ folder, static_cast<std::size_t>(file) }, role);

@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Korvane {
@@ -54,6 +55,9 @@ public:
     /// Ticks every file of a folder, or none when all are.
     Q_INVOKABLE void toggleFolder(int folder);
     Q_INVOKABLE void setOpen(int folder, bool open);
+    /// Where the row is now that was at `former` before the listing that has just been set: its own, or that of the
+    /// next that is still there, else of the one before; -1 when none is. Only while `listingReplaced` is told.
+    Q_INVOKABLE int rowNow(int former) const;
     /// The row of a folder; -1 when it is not there.
     Q_INVOKABLE int rowOfFolder(int folder) const;
 
@@ -64,8 +68,23 @@ public:
 Q_SIGNALS:
     /// After any change of what is ticked.
     void selectionChanged();
+    /// Another listing has been set, and its rows are there.
+    void listingReplaced();
 
 private:
+    /// A folder, or one of its files, by their positions.
+    struct Position {
+        std::size_t folder = 0;
+        int file = -1;
+    };
+    /// What there was before the listing, as long as that is told.
+    struct Former {
+        std::shared_ptr<const MediaListing> listing;
+        std::vector<int> rows;
+    };
+
+    static Position positionOf(const std::vector<int>& rows, int row);
+    std::optional<int> rowOfFormer(int row) const;
     bool isFolder(int folder) const;
     int fileCount(std::size_t folder) const;
     void placeRows(std::size_t firstFolder);
@@ -78,6 +97,7 @@ private:
     MediaSelection m_selection;
     std::vector<bool> m_open; ///< By folder.
     std::vector<int> m_rows; ///< Of each folder, in order, and behind them the number of all rows.
+    Former m_former;
 };
 
 } // namespace Korvane

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void goesOnFromAButtonThatIsDisabled();
     void keepsTheKeyboardWhileTheCameraRollIsReadAgain();
     void goesOnOnceTheDeviceIsAnother();
+    void goesOnOnceTheQuestionHasGoneWithItsDevice();
     void removesABackupFromTheKeyboard();
     void scrollsToWhatTheKeyboardReaches();
 
@@ -26,6 +27,12 @@ private:
     {
         tabTo("iPhone & iPad");
         key(Qt::Key_Return);
+    }
+    static bool isOnPage(const QQuickItem* item)
+    {
+        while (item != nullptr && !item->inherits("QQuickFlickable"))
+            item = item->parentItem();
+        return item != nullptr && accessibleName(item->parentItem()) == utf8("iPhone & iPad");
     }
 };
 
@@ -152,6 +159,32 @@ void DeviceKeyboardTest::goesOnOnceTheDeviceIsAnother()
     const QQuickItem* first = window()->activeFocusItem();
     key(Qt::Key_Tab);
     QTRY_VERIFY(window()->activeFocusItem() != first && !focused().isEmpty());
+}
+
+void DeviceKeyboardTest::goesOnOnceTheQuestionHasGoneWithItsDevice()
+{
+    const StandInDevices devices = phone();
+    openByKeyboard();
+    QTRY_VERIFY(folderBox("100APPLE"));
+    devices.unplugAll();
+    devices.connect("b", "Ben's iPad");
+    for (const char* path : { "100APPLE/IMG_1.HEIC", "101APPLE/IMG_2.HEIC" })
+        devices.addMedia("b", path);
+    devices.hold("idevice_id");
+    pressItem(refreshButton("Connected Device"));
+    pressItem(folderBox("100APPLE"));
+    tabTo("Delete from Device");
+    key(Qt::Key_Return);
+    QTRY_COMPARE(focused(), utf8("Cancel"));
+    devices.letGo("idevice_id");
+    QTRY_VERIFY(shows("Photos & Videos on Ben's iPad") && rowOf("101APPLE"));
+    QTRY_VERIFY(!named("Delete Permanently"));
+    // On the page still, and not before everything that Tab leads to.
+    key(Qt::Key_Tab);
+    QVERIFY2(isOnPage(window()->activeFocusItem()), qPrintable(focused()));
+    tabTo("100APPLE");
+    key(Qt::Key_Down);
+    QTRY_COMPARE(focused(), utf8("101APPLE"));
 }
 
 void DeviceKeyboardTest::removesABackupFromTheKeyboard()

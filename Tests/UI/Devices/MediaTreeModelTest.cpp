@@ -22,6 +22,7 @@ private Q_SLOTS:
     void ticksAFileAndItsFolder();
     void ticksAWholeFolderAndNothingElse();
     void anotherListingKeepsWhatIsStillThere();
+    void tellsWhereRowsAreInAnotherListing();
     void whatIsGoneIsTickedNoMore();
     void whatIsListedTwiceIsOneFile();
     void positionsThatAreNotThereChangeNothing();
@@ -151,6 +152,36 @@ void MediaTreeModelTest::anotherListingKeepsWhatIsStillThere()
     QVERIFY(ticks(model, 0) == Qt::Unchecked && ticks(model, 1) == Qt::Checked);
     model.setListing(listing({}));
     QVERIFY(model.rowCount() == 0 && model.selection().count() == 0);
+}
+
+void MediaTreeModelTest::tellsWhereRowsAreInAnotherListing()
+{
+    MediaTreeModel model;
+    QList<int> now;
+    int former = 0;
+    connect(&model, &MediaTreeModel::listingReplaced, &model, [&] {
+        for (int row = -1; row <= former; ++row)
+            now.append(model.rowNow(row));
+    });
+    const auto replace = [&](std::vector<IOSMediaFolder> folders) {
+        now.clear();
+        former = model.rowCount();
+        model.setListing(listing(std::move(folders)));
+        return now;
+    };
+    // There were no rows.
+    QCOMPARE(replace({ folder("100APPLE", 2), folder("101APPLE", 3), folder("102APPLE", 1) }), (QList<int>{ -1, -1 }));
+    model.setOpen(1, true);
+    // 100APPLE, 101APPLE and its three files, 102APPLE, none behind it.
+    IOSMediaFolder fewer = folder("101APPLE", 3);
+    fewer.files.erase(fewer.files.begin() + 1);
+    QCOMPARE(replace({ folder("099APPLE", 1), folder("101APPLE", 4), folder("102APPLE", 1), folder("100APPLE", 2) }),
+        (QList<int>{ -1, 7, 1, 2, 3, 4, 6, -1 }));
+    QCOMPARE(replace({ folder("099APPLE", 1), fewer }), (QList<int>{ -1, 0, 1, 2, 3, 3, 3, 3, 3, -1 }));
+    QCOMPARE(replace({ folder("099APPLE", 1), folder("103APPLE", 1) }), (QList<int>{ -1, 0, 0, 0, 0, -1 }));
+    QCOMPARE(replace({}), (QList<int>{ -1, -1, -1, -1 }));
+    // Not told any more.
+    QCOMPARE(model.rowNow(0), -1);
 }
 
 void MediaTreeModelTest::whatIsGoneIsTickedNoMore()
