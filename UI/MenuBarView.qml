@@ -22,7 +22,7 @@ Window {
     color: "transparent"
     width: Math.min(420, Math.max(264, content.implicitWidth + 2 * content.anchors.margins))
     height: content.implicitHeight + 2 * content.anchors.margins
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
     onVisibleChanged: {
         // Where the keyboard is shows with the first key.
@@ -30,6 +30,8 @@ Window {
             openRow.forceActiveFocus(Qt.PopupFocusReason);
     }
 
+    HeldKeys {
+    }
     Shortcut {
         sequences: ["Escape", "Ctrl+W"]
         onActivated: panel.hide()
