@@ -20,7 +20,7 @@ Window {
     title: qsTr("Korvane")
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
     color: "transparent"
-    width: Math.min(420, Math.max(264, content.implicitWidth + 2 * content.anchors.margins))
+    width: Math.min(Metrics.widestPanel, Math.max(Metrics.panelWidth, content.implicitWidth + 2 * content.anchors.margins))
     height: content.implicitHeight + 2 * content.anchors.margins
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
@@ -44,7 +44,7 @@ Window {
         anchors.fill: parent
         radius: panel.radius
         color: Theme.elevated
-        border.width: 1
+        border.width: Theme.hairline
         border.color: Theme.controlBorder
         Accessible.role: Accessible.Pane
         Accessible.name: panel.title
@@ -53,18 +53,18 @@ Window {
         id: content
 
         anchors.fill: parent
-        anchors.margins: 6
-        spacing: 2
+        anchors.margins: Theme.spacing
+        spacing: Theme.spacingHair
 
         LastCleanup {
             Layout.fillWidth: true
-            Layout.margins: 10
+            Layout.margins: Theme.spacing
             visible: panel.viewModel.hasLastCleanup
             viewModel: panel.viewModel
         }
         Separator {
             Layout.fillWidth: true
-            Layout.margins: 4
+            Layout.margins: Theme.spacingTiny
             visible: panel.viewModel.hasLastCleanup
         }
         MenuBarRow {
@@ -98,7 +98,7 @@ Window {
         }
         Separator {
             Layout.fillWidth: true
-            Layout.margins: 4
+            Layout.margins: Theme.spacingTiny
         }
         MenuBarRow {
             symbol: "power"

@@ -16,6 +16,8 @@ QtObject {
     readonly property int settingsWidth: 520
     readonly property int settingsHeight: 344
     readonly property int dialogWidth: 400
+    readonly property int panelWidth: 264
+    readonly property int widestPanel: 420
 
     // Columns. However wide the window, no line is longer than the eye follows.
     readonly property int sidebarWidth: 232
@@ -54,6 +56,7 @@ QtObject {
     readonly property int tallRowHeight: 56
     readonly property int deviceRowHeight: 104
     readonly property int sidebarRowHeight: 36
+    readonly property int panelRowHeight: 36
     readonly property int footerHeight: 76
     /// Where the box of a row stands, and the text after it.
     readonly property int rowInset: 20

@@ -16,12 +16,12 @@ RowLayout {
     spacing: Theme.spacingMedium
 
     IconTile {
-        size: 36
+        size: Metrics.rowIcon
         symbol: "sparkles"
         gradient: Theme.heroGradient
     }
     ColumnLayout {
-        spacing: 1
+        spacing: Theme.spacingHair
 
         Label {
             Layout.fillWidth: true

@@ -26,26 +26,30 @@ T.AbstractButton {
     }
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    implicitHeight: 34
-    leftPadding: 10
-    rightPadding: 10
+    implicitHeight: Metrics.panelRowHeight
+    leftPadding: Theme.spacing
+    rightPadding: Theme.spacing
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
-    opacity: row.enabled ? 1 : 0.45
+    opacity: row.enabled ? 1 : Theme.disabledOpacity
     Layout.fillWidth: true
     Keys.onDownPressed: row.step(true)
     Keys.onUpPressed: row.step(false)
     Keys.onReturnPressed: row.clicked()
     Keys.onEnterPressed: row.clicked()
     Accessible.name: row.text
+    Accessible.onPressAction: {
+        if (row.enabled)
+            row.clicked();
+    }
 
     contentItem: RowLayout {
-        spacing: 10
+        spacing: Theme.spacingMedium
 
         Symbol {
             objectName: "symbol"
             name: row.symbol
-            size: 18
+            size: Metrics.symbolMedium
             color: row.accent
         }
         Label {
@@ -60,7 +64,7 @@ T.AbstractButton {
         color: row.down ? Theme.pressedFill : row.hovered || row.visualFocus ? Theme.hoverFill : "transparent"
 
         FocusRing {
-            gap: -3
+            gap: -Theme.focusRingWidth
             around: parent.radius
             shown: row.visualFocus
         }
