@@ -27,6 +27,7 @@ RowLayout {
             Layout.fillWidth: true
             style: Label.Headline
             text: line.viewModel.lastCleanup
+            Accessible.role: Accessible.Heading
         }
         Label {
             Layout.fillWidth: true
