@@ -67,7 +67,6 @@ Column {
             delegate: DeviceRow {
                 width: devices.width
                 height: devices.rowHeight
-                showsFocus: devices.byKeyboard
                 accent: Theme.accent(part.viewModel.module.accent)
             }
         }

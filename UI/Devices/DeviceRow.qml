@@ -4,11 +4,10 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Korvane.UI
 
 /// One device: its name, its system, and how full it is.
-T.Control {
+Item {
     id: row
 
     required property int index
@@ -20,31 +19,25 @@ T.Control {
     required property string free
     required property color accent
 
-    /// Whether the row shows that it has the keyboard although it did not get it by Tab.
-    property bool showsFocus: false
-
-    focusPolicy: Qt.NoFocus
     Accessible.role: Accessible.ListItem
     Accessible.name: row.name
     Accessible.description: row.version + (row.storage === "" ? "" : ", " + row.storage)
     Accessible.focused: row.activeFocus
 
-    background: Item {
-        Separator {
-            x: Theme.spacingLarge
-            width: row.width - 2 * x
-            visible: row.index > 0
-        }
-        Rectangle {
-            anchors.fill: parent
-            anchors.margins: Theme.spacingTiny
-            radius: Theme.radius
-            color: "transparent"
-            border.width: row.activeFocus && (row.visualFocus || row.showsFocus) ? Theme.rowRing : 0
-            border.color: Theme.focusRing
-        }
+    Separator {
+        x: Theme.spacingLarge
+        width: row.width - 2 * x
+        visible: row.index > 0
     }
-
+    // No pointer brings the keyboard here.
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: Theme.spacingTiny
+        radius: Theme.radius
+        color: "transparent"
+        border.width: row.activeFocus ? Theme.rowRing : 0
+        border.color: Theme.focusRing
+    }
     Symbol {
         id: sign
 
