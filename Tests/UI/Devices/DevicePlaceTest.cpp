@@ -168,7 +168,7 @@ void DevicePlaceTest::reachesEveryDeviceByKeyboard()
     for (const char* name : { "One", "Two", "Three", "Four", "Five", "Six" })
         devices.connect(name, name);
     open();
-    QTRY_VERIFY(rowOf("One"));
+    QTRY_VERIFY(deviceRow("One"));
     tabTo("One");
     for (const char* name : { "Two", "Three", "Four", "Five", "Six" }) {
         key(Qt::Key_Down);

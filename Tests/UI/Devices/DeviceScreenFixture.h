@@ -25,6 +25,8 @@ protected:
     void open() const { press("iPhone & iPad"); }
     /// The row of a folder, a file, or a backup, by its name; null when it cannot be seen.
     QQuickItem* rowOf(const char* name) const { return itemOf("QQuickControl", name); }
+    /// The row of a device, by its name; null when it cannot be seen.
+    QQuickItem* deviceRow(const char* name) const { return itemOf("QQuickItem", name); }
     /// The box that ticks a whole folder.
     QQuickItem* folderBox(const char* name) const { return itemOf("QQuickCheckBox", name); }
     QQuickItem* trashButton(const char* backup) const;
