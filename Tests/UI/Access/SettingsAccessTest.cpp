@@ -58,8 +58,12 @@ void SettingsAccessTest::about()
 {
     QQuickWindow* settings = openSettings();
     QVERIFY(settings != nullptr);
-    click(control(settings, utf8("About")));
-    QTRY_VERIFY(visibleTexts(settings).contains(utf8("Keep your Mac and iOS devices clean and fast.")));
+    const auto isChosen = [&] {
+        // A window manager that still places the window may swallow a click.
+        click(control(settings, utf8("About")));
+        return visibleTexts(settings).contains(utf8("Keep your Mac and iOS devices clean and fast."));
+    };
+    QTRY_VERIFY(isChosen());
     checkAccess(settings, "about");
 }
 

@@ -7,6 +7,24 @@
 
 using namespace Korvane;
 
+namespace {
+
+/// What `measure` gives once it has been the same for half a second, or after ten seconds.
+template <typename Measure> double settled(Measure measure)
+{
+    double value = measure();
+    int same = 0;
+    for (int round = 0; round < 200 && same < 10; ++round) {
+        QTest::qWait(50);
+        const double now = measure();
+        same = qFuzzyCompare(now + 1, value + 1) ? same + 1 : 0;
+        value = now;
+    }
+    return value;
+}
+
+} // namespace
+
 /// Where the screen of the devices stands, and what of it is seen.
 class DevicePlaceTest : public DeviceScreenFixture {
     Q_OBJECT
@@ -90,7 +108,7 @@ void DevicePlaceTest::staysWhereItWasWhenReadAgain()
     const StandInDevices devices = phoneOfManyPhotos();
     goToAPhoto();
     key(Qt::Key_Space);
-    const double height = heightOf("IMG_1279.HEIC");
+    const double height = settled([this] { return heightOf("IMG_1279.HEIC"); });
     // A photo that is new, and one that has gone, in other folders.
     devices.addMedia("a", "100APPLE/IMG_9.HEIC");
     std::filesystem::remove(devices.media("a", "101APPLE/IMG_4.HEIC"));
@@ -121,7 +139,7 @@ void DevicePlaceTest::staysWhereItWasAfterADeletion()
     tabTo("Delete from Device");
     key(Qt::Key_Return);
     QTRY_COMPARE(focused(), utf8("Cancel"));
-    const double height = heightInList("IMG_1279.HEIC");
+    const double height = settled([this] { return heightInList("IMG_1279.HEIC"); });
     // A folder above has gone as well.
     std::filesystem::remove(devices.media("a", "101APPLE/IMG_4.HEIC"));
     tabTo("Delete Permanently");
