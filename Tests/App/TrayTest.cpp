@@ -85,7 +85,9 @@ void TrayTest::theOtherButtonOpensTheMenu()
     const QMenu& menu = m_app->trayIcon().menu();
     QTRY_VERIFY(menu.isVisible());
     QTRY_VERIFY(!panel()->isVisible());
-    TrayHost::press(QStringLiteral("Escape"));
+    // Which key reaches it is up to the X server: it grants the keyboard to one at a time.
+    QVERIFY(QApplication::activePopupWidget() == &menu);
+    QApplication::activePopupWidget()->close();
     QTRY_VERIFY(!menu.isVisible());
 }
 

@@ -5,7 +5,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
-import Korvane.UI
 
 /// Where a screen shows one view after the other, each made afresh.
 FocusScope {

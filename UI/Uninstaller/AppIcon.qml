@@ -4,7 +4,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Korvane.UI
 
 /// The icon of an application, sharp at every screen density; empty until it is loaded.
 Image {
