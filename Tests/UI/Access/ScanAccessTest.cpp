@@ -149,6 +149,7 @@ void ScanAccessTest::whatWasCleaned()
     press("Clean");
     press("Move to Trash");
     QTRY_VERIFY(named("Show Details"));
+    QTRY_VERIFY(!named("Move to Trash"));
     checkAccess(window(), "what was cleaned");
     press("Show Details");
     QTRY_VERIFY(named("Hide Details"));
