@@ -9,8 +9,8 @@
 #include <QTest>
 
 #include <algorithm>
-#include <utility>
 #include <functional>
+#include <utility>
 
 namespace Korvane {
 
