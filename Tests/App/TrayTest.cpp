@@ -85,9 +85,9 @@ void TrayTest::theOtherButtonOpensTheMenu()
     const QMenu& menu = m_app->trayIcon().menu();
     QTRY_VERIFY(menu.isVisible());
     QTRY_VERIFY(!panel()->isVisible());
-    // Which key reaches it is up to the X server: it grants the keyboard to one at a time.
+    // The X server grants the keyboard to one at a time, and not always to the menu.
     QVERIFY(QApplication::activePopupWidget() == &menu);
-    QApplication::activePopupWidget()->close();
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
     QTRY_VERIFY(!menu.isVisible());
 }
 
