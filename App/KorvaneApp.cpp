@@ -4,6 +4,7 @@
 #include "App/KorvaneApp.h"
 
 #include "App/ApplicationMenu.h"
+#include "App/PanelPosition.h"
 #include "UI/Uninstaller/ApplicationIconProvider.h"
 
 #include <QApplication>
@@ -48,12 +49,17 @@ void KorvaneApp::connectMenuBar()
 void KorvaneApp::showPanelOrMenu()
 {
     const QRect icon = m_trayIcon.geometry();
-    if (!MenuBarPanel::canBePlaced())
-        openMainWindow(); // The desktop itself shows the menu, for another click.
-    else if (icon.isEmpty())
-        m_trayIcon.popUpMenu();
-    else
+    switch (panelPlace(QGuiApplication::platformName(), icon)) {
+    case PanelPlace::AtIcon:
         m_panel.toggle(icon);
+        break;
+    case PanelPlace::AtPointer:
+        m_trayIcon.popUpMenu();
+        break;
+    case PanelPlace::Nowhere:
+        openMainWindow();
+        break;
+    }
 }
 
 bool KorvaneApp::start()

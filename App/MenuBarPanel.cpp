@@ -19,8 +19,6 @@ namespace {
 /// In milliseconds: a click on the icon takes the keyboard from the panel before the icon hears of it.
 constexpr qint64 sameClick = 300;
 
-bool hasPlatform(const char* name) { return QGuiApplication::platformName() == QLatin1String(name); }
-
 } // namespace
 
 MenuBarPanel::MenuBarPanel(QQmlEngine& engine, MenuBarViewModel& viewModel)
@@ -30,8 +28,6 @@ MenuBarPanel::MenuBarPanel(QQmlEngine& engine, MenuBarViewModel& viewModel)
 }
 
 MenuBarPanel::~MenuBarPanel() = default;
-
-bool MenuBarPanel::canBePlaced() { return hasPlatform("xcb") || hasPlatform("cocoa"); }
 
 void MenuBarPanel::toggle(const QRect& icon)
 {
@@ -87,7 +83,7 @@ void MenuBarPanel::place()
 void MenuBarPanel::cutToShape()
 {
     // Without a compositor what is transparent is black.
-    if (!hasPlatform("xcb"))
+    if (QGuiApplication::platformName() != QLatin1String("xcb"))
         return;
     const qreal radius = m_window->property("radius").toReal();
     QPainterPath shape;

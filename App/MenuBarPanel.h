@@ -26,9 +26,6 @@ public:
     MenuBarPanel(QQmlEngine& engine, MenuBarViewModel& viewModel);
     ~MenuBarPanel() override;
 
-    /// Whether this desktop lets an application say where its windows are.
-    static bool canBePlaced();
-
     /// Shows the panel at the icon, which lies there on the desktop, or hides it when it is shown, or was until this
     /// very click.
     void toggle(const QRect& icon);

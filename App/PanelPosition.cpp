@@ -16,6 +16,13 @@ int between(int wanted, int first, int last) { return std::max(first, std::min(w
 
 } // namespace
 
+PanelPlace panelPlace(const QString& platform, const QRect& icon)
+{
+    if (platform != QLatin1String("xcb") && platform != QLatin1String("cocoa"))
+        return PanelPlace::Nowhere;
+    return icon.isEmpty() ? PanelPlace::AtPointer : PanelPlace::AtIcon;
+}
+
 QPoint panelPosition(const QRect& icon, const QSize& panel, const QRect& available)
 {
     const bool isBelow = icon.center().y() < available.center().y();

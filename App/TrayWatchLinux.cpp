@@ -19,6 +19,9 @@ namespace {
 /// A panel that is started anew has its tray back well before.
 constexpr auto timeToComeBack = std::chrono::seconds(3);
 
+/// Its name on the bus, and that of its interface.
+const QString service = QStringLiteral("org.kde.StatusNotifierWatcher");
+
 /// The X11 protocol's number of the event that tells of a destroyed window.
 constexpr int destroyNotify = 17;
 
@@ -26,13 +29,15 @@ constexpr int destroyNotify = 17;
 class LinuxTrayWatch final : public TrayWatch, private QAbstractNativeEventFilter {
 public:
     explicit LinuxTrayWatch(std::function<void()> mayHaveGone)
-        : m_watcher(QStringLiteral("org.kde.StatusNotifierWatcher"), QDBusConnection::sessionBus(),
-            QDBusServiceWatcher::WatchForUnregistration)
+        : m_watcher(service, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForUnregistration)
     {
         m_wait.setSingleShot(true);
         m_wait.setInterval(timeToComeBack);
         m_wait.callOnTimeout(std::move(mayHaveGone));
         QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceUnregistered, &m_wait, [this] { m_wait.start(); });
+        // The service may go on without a panel that shows its icons.
+        QDBusConnection::sessionBus().connect(service, QStringLiteral("/StatusNotifierWatcher"), service,
+            QStringLiteral("StatusNotifierHostUnregistered"), &m_wait, SLOT(start()));
         QCoreApplication::instance()->installNativeEventFilter(this);
     }
 

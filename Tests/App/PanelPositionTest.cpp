@@ -11,10 +11,36 @@ class PanelPositionTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void isThereWhereTheDesktopAllows_data();
+    void isThereWhereTheDesktopAllows();
     void hangsAtTheIcon_data();
     void hangsAtTheIcon();
     void showsItsBeginningWhenTheScreenIsTooSmall();
 };
+
+void PanelPositionTest::isThereWhereTheDesktopAllows_data()
+{
+    QTest::addColumn<QString>("platform");
+    QTest::addColumn<QRect>("icon");
+    QTest::addColumn<PanelPlace>("place");
+    const QRect told(1000, 3, 24, 24);
+    const QRect untold;
+    QTest::newRow("X11") << QStringLiteral("xcb") << told << PanelPlace::AtIcon;
+    QTest::newRow("X11, a tray on the bus") << QStringLiteral("xcb") << untold << PanelPlace::AtPointer;
+    QTest::newRow("macOS") << QStringLiteral("cocoa") << told << PanelPlace::AtIcon;
+    QTest::newRow("macOS, no room for the icon") << QStringLiteral("cocoa") << untold << PanelPlace::AtPointer;
+    QTest::newRow("Wayland") << QStringLiteral("wayland") << untold << PanelPlace::Nowhere;
+    QTest::newRow("Wayland, a place that means nothing") << QStringLiteral("wayland") << told << PanelPlace::Nowhere;
+    QTest::newRow("Wayland with OpenGL") << QStringLiteral("wayland-egl") << untold << PanelPlace::Nowhere;
+    QTest::newRow("no desktop") << QStringLiteral("offscreen") << told << PanelPlace::Nowhere;
+}
+
+void PanelPositionTest::isThereWhereTheDesktopAllows()
+{
+    QFETCH(const QString, platform);
+    QFETCH(const QRect, icon);
+    QTEST(panelPlace(platform, icon), "place");
+}
 
 void PanelPositionTest::hangsAtTheIcon_data()
 {
