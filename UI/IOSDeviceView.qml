@@ -26,7 +26,6 @@ FocusScope {
         id: page
 
         anchors.fill: parent
-        focus: true
         viewModel: screen.viewModel
         shown: screen.onScreen
     }

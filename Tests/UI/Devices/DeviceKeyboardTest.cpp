@@ -13,6 +13,7 @@ class DeviceKeyboardTest : public DeviceScreenFixture {
     Q_OBJECT
 
 private Q_SLOTS:
+    void goesOnFromTheCardThatOpensTheScreen();
     void browsesTheCameraRoll();
     void deletesFromTheKeyboard();
     void goesOnFromAButtonThatIsDisabled();
@@ -35,6 +36,20 @@ private:
         return item != nullptr && accessibleName(item->parentItem()) == utf8("iPhone & iPad");
     }
 };
+
+void DeviceKeyboardTest::goesOnFromTheCardThatOpensTheScreen()
+{
+    phone();
+    tabTo("Smart Scan");
+    tabTo("iPhone & iPad");
+    key(Qt::Key_Return);
+    QTRY_VERIFY(rowOf("101APPLE"));
+    QTRY_VERIFY(refreshButton("Connected Device")->isEnabled());
+    key(Qt::Key_Tab);
+    QVERIFY2(isOnPage(window()->activeFocusItem()), focused().toUtf8());
+    key(Qt::Key_Backtab);
+    QVERIFY2(isOnPage(window()->activeFocusItem()), focused().toUtf8());
+}
 
 void DeviceKeyboardTest::browsesTheCameraRoll()
 {
