@@ -4,8 +4,8 @@
 // A slow disk, for pictures of what is over too soon: loaded before a program (ld.so(8), LD_PRELOAD), it lets the
 // program wait at a folder that it reads, or at a file that it moves, for as long as a file exists.
 //
-// BRAKE_READING names the file for folders; the number in it tells how many are read before. BRAKE_MOVING names that for
-// moves.
+// BRAKE_READING names the file for folders; so many as the number in it tells are read before, slowly. BRAKE_MOVING names
+// that for moves.
 
 #define _GNU_SOURCE
 #include <dlfcn.h>
@@ -40,7 +40,11 @@ static void waitAt(const char* variable)
 static void waitAtFolder(void)
 {
     const char* const path = getenv("BRAKE_READING");
-    if (path != NULL && access(path, F_OK) == 0 && atomic_fetch_add(&foldersRead, 1) >= numberIn(path))
+    if (path == NULL || access(path, F_OK) != 0)
+        return;
+    if (atomic_fetch_add(&foldersRead, 1) < numberIn(path))
+        usleep(40000);
+    else
         waitAt("BRAKE_READING");
 }
 

@@ -2,9 +2,11 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The application on a made-up machine, its keyboard, and pictures of its windows."""
 
+import contextlib
 import hashlib
 import os
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -77,6 +79,7 @@ class Machine:
         self.home = self.place / "home"
         self.stand_ins = self.place / "stand-ins"
         self.stand_ins.mkdir()
+        self.application = None
         self.last = None
         self.other = ""
         try:
@@ -126,6 +129,10 @@ class Machine:
         for process in reversed(self.processes):
             process.terminate()
             process.wait(timeout=LONGEST)
+            if process is self.application:
+                # What it has started, and what stands in for another application.
+                with contextlib.suppress(ProcessLookupError):
+                    os.killpg(process.pid, signal.SIGTERM)
         shutil.rmtree(self.place)
 
     def environment(self) -> dict:
@@ -150,10 +157,10 @@ class Machine:
             # Not a shell's job: a stand-in for an application that the user has open.
             shutil.copy("/usr/bin/sleep", self.home / self.running)
             command = ["sh", "-c", '"$1" 1000 & shift; exec "$@"', "sh", f"{HOME}/{self.running}", *command]
-        application = subprocess.Popen(
+        self.application = subprocess.Popen(
             ["unshare", "--mount", *self.settings.ordinary, HERE / "machine.sh", self.place, HOME, self.room, *command],
-            env=self.environment(), stderr=sys.stderr)
-        self.processes.append(application)
+            env=self.environment(), stderr=sys.stderr, start_new_session=True)
+        self.processes.append(self.application)
         self.known = set()
         self.window = self.new_window()
         width, height = self.settings.size
@@ -163,15 +170,15 @@ class Machine:
         self.park()
 
     def windows(self) -> set:
-        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(self.processes[-1].pid)],
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(self.application.pid)],
                                capture_output=True, text=True, timeout=LONGEST, check=False)
         return set(found.stdout.split())
 
     def new_window(self) -> str:
         """The window of the application that has come since."""
         def look():
-            if self.processes[-1].poll() is not None:
-                raise Failure(f"the application ended with {self.processes[-1].returncode}")
+            if self.application.poll() is not None:
+                raise Failure(f"the application ended with {self.application.returncode}")
             return self.windows() - self.known
         found = self.wait_for(look, "a window")
         window = min(found, key=int)

@@ -12,7 +12,7 @@ MODULES = ("systemJunk", "largeFiles", "uninstaller", "maintenance", "duplicates
 # Before the first card: the menu, seven rows of the sidebar, and the scan.
 STOPS_BEFORE_CARDS = 9
 # How many folders are read before the scan is held, so that it has found something.
-FOLDERS_READ = {"systemJunk": 80, "largeFiles": 120, "duplicates": 120}
+FOLDERS_READ = {"systemJunk": 80, "largeFiles": 24, "duplicates": 24}
 # What is gone from the disk between the question and the cleaning.
 VANISHING = {
     "systemJunk": ("Library/Caches/Quillmark", "Library/Logs/backup-agent.log", ".cache/pipewright"),
