@@ -43,8 +43,8 @@ QtObject {
     readonly property color scrim: dark ? "#99000000" : "#40000000"
 
     // Lines and states, laid over a background.
-    readonly property color separator: dark ? (highContrast ? "#66ffffff" : "#1fffffff")
-                                            : (highContrast ? "#66000000" : "#1a000000")
+    readonly property color separator: dark ? (highContrast ? "#80ffffff" : "#1fffffff")
+                                            : (highContrast ? "#80000000" : "#1a000000")
     readonly property color controlBorder: dark ? (highContrast ? "#b3ffffff" : "#33ffffff")
                                                 : (highContrast ? "#b3000000" : "#2e000000")
     readonly property color checkBorder: highContrast ? label : dark ? "#8cffffff" : "#8c000000"
@@ -55,7 +55,7 @@ QtObject {
     readonly property color trackFill: dark ? "#26ffffff" : "#1a000000"
     readonly property color capsuleFill: dark ? "#1fffffff" : "#12000000"
     readonly property color focusRing: dark ? "#3d9dff" : blue
-    readonly property color cardBorder: dark ? "#1affffff" : "#12000000"
+    readonly property color cardBorder: highContrast ? controlBorder : dark ? "#1affffff" : "#12000000"
     readonly property color shadow: dark ? "#66000000" : "#24000000"
 
     // Fills under white text, strong enough for it.

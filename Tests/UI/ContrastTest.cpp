@@ -38,6 +38,8 @@ private Q_SLOTS:
     void whiteCanBeReadOnFills();
     void signsCanBeSeen_data() { addLooks(); }
     void signsCanBeSeen();
+    void linesCanBeSeenWhereContrastIsAsked_data();
+    void linesCanBeSeenWhereContrastIsAsked();
 
 private:
     static void addLooks();
@@ -166,14 +168,29 @@ void ContrastTest::signsCanBeSeen()
     verify("focusRing", color("sidebar"), forSigns);
     verify("focusRing", on("selectionFill", color("card")), forSigns);
     verify("checkBorder", color("field"), forSigns);
-    // The button that removes a row is a symbol alone.
-    verify("red", color("card"), forSigns);
-    verify("red", on("hoverFill", color("card")), forSigns);
     // A mark in its box, a knob on its switch.
     QVERIFY(contrast(color("onAccent"), on("pressedFill", color("checkedFill"))) >= forSigns);
     for (const char* knob : { "knob", "pressedKnob" }) {
         verify(knob, on("switchOffFill", color("card")), forSigns);
         verify(knob, color("checkedFill"), forSigns);
+    }
+}
+
+void ContrastTest::linesCanBeSeenWhereContrastIsAsked_data()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::newRow("light") << false;
+    QTest::newRow("dark") << true;
+}
+
+void ContrastTest::linesCanBeSeenWhereContrastIsAsked()
+{
+    QFETCH(const bool, dark);
+    m_appearance->setDark(dark);
+    m_appearance->setHighContrast(true);
+    for (const char* line : { "separator", "controlBorder", "cardBorder", "checkBorder" }) {
+        for (const char* ground : { "window", "sidebar", "card", "elevated" })
+            verify(line, color(ground), forSigns);
     }
 }
 

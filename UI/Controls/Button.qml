@@ -43,6 +43,10 @@ T.Button {
         }
     }
 
+    /// What is laid over the fill while the pointer is there, or presses.
+    readonly property color stateFill: button.filled ? (button.down ? Theme.filledPressedFill : Theme.filledHoverFill)
+                                                     : (button.down ? Theme.pressedFill : Theme.hoverFill)
+
     implicitHeight: button.large ? Metrics.largeControlHeight : Metrics.controlHeight
     implicitWidth: Math.max(button.implicitHeight, implicitContentWidth + leftPadding + rightPadding)
     leftPadding: button.text === "" ? 0 : button.large ? Theme.spacingHuge : Theme.spacingMedium
@@ -101,8 +105,7 @@ T.Button {
         Rectangle {
             anchors.fill: parent
             radius: parent.radius
-            color: button.filled ? (button.down ? Theme.filledPressedFill : Theme.filledHoverFill)
-                                 : (button.down ? Theme.pressedFill : Theme.hoverFill)
+            color: button.stateFill
             opacity: button.down || (button.hovered && button.enabled) ? 1 : 0
 
             Behavior on opacity {

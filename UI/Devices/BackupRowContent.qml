@@ -59,16 +59,11 @@ Item {
         text: content.size
         Accessible.ignored: true
     }
-    Button {
+    RemoveButton {
         id: trash
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        // The row has the keyboard, and does the same.
-        focusPolicy: Qt.NoFocus
-        kind: Button.Borderless
-        symbol: "trash"
-        ink: Theme.red
         Accessible.name: qsTr("Delete backup of %1").arg(content.name)
         onClicked: content.removalRequested()
     }

@@ -62,17 +62,12 @@ Item {
             Accessible.ignored: true
         }
     }
-    Button {
+    RemoveButton {
         id: trash
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         visible: content.removable
-        // The row has the keyboard, and does the same.
-        focusPolicy: Qt.NoFocus
-        kind: Button.Borderless
-        symbol: "trash"
-        ink: Theme.red
         Accessible.name: qsTr("Remove %1").arg(content.label)
         onClicked: content.removalRequested()
     }
