@@ -40,7 +40,8 @@ Languages::Languages(const QStringList& wanted)
     if (speaks) {
         QCoreApplication::installTranslator(&m_own);
         setMessageCatalogue(translated);
-        if (m_qt.load(QStringLiteral("qtbase_") + m_name, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        const QString qtName = QStringLiteral("qtbase_") + m_name;
+        if (m_qt.load(qtName, folder) || m_qt.load(qtName, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
             QCoreApplication::installTranslator(&m_qt);
     }
     // Not the desktop's own: a window whose texts are English reads from left to right.

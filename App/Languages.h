@@ -9,8 +9,8 @@
 
 namespace Korvane {
 
-/// The language that the application speaks, for as long as this lives: its own texts, those of Qt where it is
-/// installed with them, and the direction of its windows.
+/// The language that the application speaks, for as long as this lives: its own texts, those of Qt where they
+/// are embedded or installed, and the direction of its windows.
 ///
 /// Main thread. Made once, after the QApplication and before anything that has a text, and destroyed before it.
 class Languages {

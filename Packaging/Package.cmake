@@ -28,9 +28,9 @@ for a terminal and for scripts.")
     # The tools that talk to iPhones and iPads.
     set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libimobiledevice-utils")
     if(KORVANE_BUILD_UI)
-        # The windows' QML modules are loaded at run time, so that no tool can see that they are needed.
+        # The windows' QML modules and Qt's own texts are loaded at run time, so that no tool can see that they are needed.
         set(CPACK_DEBIAN_PACKAGE_DEPENDS "qml6-module-qtqml, qml6-module-qtqml-workerscript, qml6-module-qtquick, \
-qml6-module-qtquick-layouts, qml6-module-qtquick-templates, qml6-module-qtquick-window")
+qml6-module-qtquick-layouts, qml6-module-qtquick-templates, qml6-module-qtquick-window, qt6-translations-l10n")
         string(APPEND CPACK_DEBIAN_PACKAGE_RECOMMENDS ", fonts-inter, pkexec | policykit-1, qt6-wayland")
     endif()
 endif()

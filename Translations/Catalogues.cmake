@@ -42,5 +42,21 @@ foreach(catalogue IN LISTS catalogues)
         VERBATIM)
     list(APPEND compiledCatalogues ${compiled})
 endforeach()
+
+if(APPLE)
+    # Qt writes the menu of the application, and its bundle brings nothing of what that is called elsewhere.
+    get_target_property(qmake Qt6::qmake IMPORTED_LOCATION)
+    execute_process(COMMAND ${qmake} -query QT_INSTALL_TRANSLATIONS
+        OUTPUT_VARIABLE qtCatalogues OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    foreach(language IN LISTS languages)
+        if(EXISTS ${qtCatalogues}/qtbase_${language}.qm)
+            configure_file(${qtCatalogues}/qtbase_${language}.qm qtbase_${language}.qm COPYONLY)
+            list(APPEND compiledCatalogues ${CMAKE_CURRENT_BINARY_DIR}/qtbase_${language}.qm)
+        else()
+            message(WARNING "Qt's own texts stay English where Korvane speaks ${language}: "
+                "there is no ${qtCatalogues}/qtbase_${language}.qm")
+        endif()
+    endforeach()
+endif()
 qt_add_resources(KorvaneApp translations
     PREFIX /translations BASE ${CMAKE_CURRENT_BINARY_DIR} FILES ${compiledCatalogues})

@@ -18,7 +18,7 @@ debian_packages=(
     libicu-dev libssl-dev
     qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-controls
     qml6-module-qtquick-layouts qml6-module-qtquick-shapes qml6-module-qtquick-templates qml6-module-qtquick-window
-    qt6-qpa-plugins libgl1-mesa-dri fonts-inter fonts-dejavu-core
+    qt6-qpa-plugins qt6-translations-l10n libgl1-mesa-dri fonts-inter fonts-dejavu-core
     python3 dbus
 )
 debian_test_packages=(
@@ -32,7 +32,7 @@ debian_bench_packages=(libbenchmark-dev strace rdfind rmlint fdupes jdupes)
 
 fedora_packages=(
     gcc-c++ cmake ninja-build pkgconf-pkg-config file
-    qt6-qtbase-devel qt6-qtdeclarative-devel qt6-qtsvg-devel qt6-qttools-devel
+    qt6-qtbase-devel qt6-qtdeclarative-devel qt6-qtsvg-devel qt6-qttools-devel qt6-qttranslations
     mesa-libGL-devel vulkan-headers libicu-devel openssl-devel
     mesa-dri-drivers dejavu-sans-fonts rsms-inter-fonts python3 dbus-daemon
 )
@@ -47,7 +47,7 @@ fedora_bench_packages=(google-benchmark-devel strace rdfind rmlint fdupes jdupes
 
 arch_packages=(
     gcc cmake ninja pkgconf file
-    qt6-base qt6-declarative qt6-svg qt6-tools mesa vulkan-headers icu openssl
+    qt6-base qt6-declarative qt6-svg qt6-tools qt6-translations mesa vulkan-headers icu openssl
     inter-font ttf-dejavu python dbus
 )
 arch_test_packages=(

@@ -4,7 +4,9 @@
 #include "App/Languages.h"
 #include "Platform/Localized.h"
 
+#include <QFile>
 #include <QGuiApplication>
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace Korvane;
@@ -28,6 +30,9 @@ private Q_SLOTS:
     void englishStaysWhatItIs();
     void theDirectionIsThatOfTheLanguage_data();
     void theDirectionIsThatOfTheLanguage();
+    void qtSpeaksIt_data();
+    void qtSpeaksIt();
+    void macOSIsToldOfEachLanguage();
     void argumentsAreFilledInOnce();
 };
 
@@ -113,6 +118,55 @@ void LanguagesTest::theDirectionIsThatOfTheLanguage()
     QFETCH(const Qt::LayoutDirection, direction);
     const Languages languages({ wanted });
     QCOMPARE(QGuiApplication::layoutDirection(), direction);
+}
+
+void LanguagesTest::qtSpeaksIt_data()
+{
+    QTest::addColumn<QString>("wanted");
+    QTest::addColumn<QString>("cancel");
+    const auto row
+        = [](const char* wanted, const char* cancel) { QTest::newRow(wanted) << utf8(wanted) << utf8(cancel); };
+    row("en", "Cancel");
+    row("de", "Abbrechen");
+    row("es", "Cancelar");
+    row("fr", "Annuler");
+    row("ja", "キャンセル");
+    row("zh-CN", "取消");
+}
+
+void LanguagesTest::qtSpeaksIt()
+{
+    QFETCH(const QString, wanted);
+    QFETCH(const QString, cancel);
+    const Languages languages({ wanted });
+    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), cancel);
+    const QString quit = QCoreApplication::translate("MAC_APPLICATION_MENU", "Quit %1");
+    QVERIFY(quit.contains(utf8("%1")));
+    QCOMPARE(quit == utf8("Quit %1"), languages.name().isEmpty());
+}
+
+void LanguagesTest::macOSIsToldOfEachLanguage()
+{
+    QFile file(utf8(KORVANE_INFO_PLIST));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    static const QRegularExpression list(utf8("<key>CFBundleLocalizations</key>\\s*<array>(.*?)</array>"),
+        QRegularExpression::DotMatchesEverythingOption);
+    const QString text = QString::fromUtf8(file.readAll());
+    const QRegularExpressionMatch match = list.match(text);
+    QVERIFY(match.hasMatch());
+    static const QRegularExpression entry(utf8("<string>([^<]*)</string>"));
+    QStringList told;
+    for (auto found = entry.globalMatch(match.captured(1)); found.hasNext();)
+        told.append(found.next().captured(1));
+    QStringList spoken{ utf8("en") };
+    // The name that macOS has for each, and without the language of nobody.
+    for (const QString& name : Languages::available()) {
+        if (name != utf8("ar_XB"))
+            spoken.append(name == utf8("zh_CN") ? utf8("zh-Hans") : name);
+    }
+    told.sort();
+    spoken.sort();
+    QCOMPARE(told, spoken);
 }
 
 void LanguagesTest::argumentsAreFilledInOnce()

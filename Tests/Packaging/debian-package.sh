@@ -36,7 +36,8 @@ unexpected="$(grep -v '/$' <<<"$contents" | grep -vxF -f <(printf '%s\n' "${expe
 [ -z "$unexpected" ] || fail "more in the package than should be: $unexpected"
 
 depends="$(dpkg-deb --field "$package" Depends)"
-for name in libqt6quick6 libqt6svg6 libicu libssl qml6-module-qtquick-templates qml6-module-qtquick-layouts; do
+for name in libqt6quick6 libqt6svg6 libicu libssl qml6-module-qtquick-templates qml6-module-qtquick-layouts \
+    qt6-translations-l10n; do
     [[ $depends == *"$name"* ]] || fail "the package does not depend on $name: $depends"
 done
 recommends="$(dpkg-deb --field "$package" Recommends)"
