@@ -37,15 +37,17 @@ Languages::Languages(const QStringList& wanted)
     : m_name(chosen(wanted, available()))
 {
     const bool speaks = !m_name.isEmpty() && m_own.load(prefix + m_name, folder);
+    // Not the desktop's own: a window whose texts are English reads from left to right.
+    const Qt::LayoutDirection direction = speaks ? QLocale(m_name).textDirection() : Qt::LeftToRight;
     if (speaks) {
         QCoreApplication::installTranslator(&m_own);
-        setMessageCatalogue(translated);
+        setMessageCatalogue(
+            translated, direction == Qt::RightToLeft ? TextDirection::rightToLeft : TextDirection::leftToRight);
         const QString qtName = QStringLiteral("qtbase_") + m_name;
         if (m_qt.load(qtName, folder) || m_qt.load(qtName, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
             QCoreApplication::installTranslator(&m_qt);
     }
-    // Not the desktop's own: a window whose texts are English reads from left to right.
-    QGuiApplication::setLayoutDirection(speaks ? QLocale(m_name).textDirection() : Qt::LeftToRight);
+    QGuiApplication::setLayoutDirection(direction);
 }
 
 Languages::~Languages()

@@ -11,6 +11,8 @@ namespace Korvane {
 namespace {
 
 constexpr int uncounted = -1;
+constexpr auto firstStrongIsolate = "\u2068";
+constexpr auto popDirectionalIsolate = "\u2069";
 
 MessageCatalogue& messageCatalogue()
 {
@@ -18,9 +20,26 @@ MessageCatalogue& messageCatalogue()
     return catalogue;
 }
 
+TextDirection& textDirection()
+{
+    static TextDirection direction = TextDirection::leftToRight;
+    return direction;
+}
+
+std::string isolated(const std::string& argument)
+{
+    if (textDirection() == TextDirection::leftToRight)
+        return argument;
+    return firstStrongIsolate + argument + popDirectionalIsolate;
+}
+
 } // namespace
 
-void setMessageCatalogue(MessageCatalogue catalogue) { messageCatalogue() = std::move(catalogue); }
+void setMessageCatalogue(MessageCatalogue catalogue, TextDirection direction)
+{
+    messageCatalogue() = std::move(catalogue);
+    textDirection() = direction;
+}
 
 std::string localized(const char* context, const char* key)
 {
@@ -50,7 +69,7 @@ std::string filledIn(const std::string& text, std::initializer_list<std::string>
         const bool isPlace = text[at] == '%' && at + 1 < text.size() && text[at + 1] >= '1' && text[at + 1] <= '9';
         const std::size_t number = isPlace ? static_cast<std::size_t>(text[at + 1] - '1') : arguments.size();
         if (number < arguments.size()) {
-            filled += arguments.begin()[number];
+            filled += isolated(arguments.begin()[number]);
             ++at;
         } else {
             filled += text[at];

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Platform/TextDirection.h"
+
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
@@ -14,8 +16,9 @@ namespace Korvane {
 /// Called on any thread.
 using MessageCatalogue = std::function<std::string(const char* context, const char* key, const char* note, int count)>;
 
-/// Sets what `localized` asks; nothing for the keys themselves, which are English. Before any thread is started.
-void setMessageCatalogue(MessageCatalogue catalogue);
+/// Sets what `localized` asks, and which way that is written; nothing for the keys themselves, which are English.
+/// Before any thread is started.
+void setMessageCatalogue(MessageCatalogue catalogue, TextDirection direction = TextDirection::leftToRight);
 
 /// What a person reads for a key: its text in the language of the program. Any thread.
 ///
@@ -29,6 +32,9 @@ std::string localized(const char* context, const char* key, const char* note, in
 int pluralCount(std::int64_t count);
 
 /// A text with its places "%1" to "%9" filled with the arguments; what an argument holds is not looked at again.
+///
+/// Where the language of the program is written from right to left, each argument is in an isolate of its own (Unicode
+/// Standard Annex 9, FSI and PDI): a size or a path keeps its order there, and the sentence around it keeps its own.
 std::string filledIn(const std::string& text, std::initializer_list<std::string> arguments);
 
 } // namespace Korvane

@@ -5,6 +5,7 @@
 
 #include "Core/Scanning/FormattedBytes.h"
 #include "UI/Background.h"
+#include "UI/FilledText.h"
 
 #include <algorithm>
 #include <utility>
@@ -36,8 +37,7 @@ bool DashboardViewModel::isNearlyFull() const
 
 QString DashboardViewModel::capacityText() const
 {
-    return tr("%1 free of %2")
-        .arg(QString::fromStdString(formattedBytes(m_freeBytes)), QString::fromStdString(formattedBytes(m_totalBytes)));
+    return filledIn(tr("%1 free of %2"), freeText(), QString::fromStdString(formattedBytes(m_totalBytes)));
 }
 
 QString DashboardViewModel::usedText() const { return QString::fromStdString(formattedBytes(usedBytes())); }

@@ -7,6 +7,7 @@
 #include "Platform/DeviceToolsHint.h"
 #include "UI/Background.h"
 #include "UI/Devices/DeviceTexts.h"
+#include "UI/FilledText.h"
 
 #include <cstdlib>
 #include <utility>
@@ -73,7 +74,7 @@ IOSDeviceViewModel::DeviceState IOSDeviceViewModel::deviceState() const
 
 QString IOSDeviceViewModel::toolsHint() const
 {
-    return tr("Install libimobiledevice to talk to iPhones and iPads:\n%1").arg(m_installation);
+    return filledIn(tr("Install libimobiledevice to talk to iPhones and iPads:\n%1"), m_installation);
 }
 
 void IOSDeviceViewModel::load()
@@ -156,7 +157,7 @@ void IOSDeviceViewModel::ask(const QString& backupId)
     const IOSBackup* backup = m_backups.backup(backupId);
     if (!backup)
         return;
-    m_question = tr("Delete backup of %1?").arg(DeviceTexts::name(backup->deviceName));
+    m_question = filledIn(tr("Delete backup of %1?"), DeviceTexts::name(backup->deviceName));
     m_backupToDelete = *backup;
     Q_EMIT backupToDeleteChanged();
 }

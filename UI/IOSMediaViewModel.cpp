@@ -8,6 +8,7 @@
 #include "Platform/Localized.h"
 #include "UI/Background.h"
 #include "UI/Devices/DeviceTexts.h"
+#include "UI/FilledText.h"
 #include "UI/ThrottledProgress.h"
 
 #include <exception>
@@ -97,7 +98,10 @@ QString IOSMediaViewModel::progressText() const
     return tr("%1 of %n folders", nullptr, pluralCount(m_foldersFound)).arg(m_foldersListed);
 }
 
-QString IOSMediaViewModel::title() const { return tr("Photos & Videos on %1").arg(DeviceTexts::name(m_deviceName)); }
+QString IOSMediaViewModel::title() const
+{
+    return filledIn(tr("Photos & Videos on %1"), DeviceTexts::name(m_deviceName));
+}
 
 QString IOSMediaViewModel::selectionText() const
 {
@@ -178,8 +182,8 @@ void IOSMediaViewModel::finishExport(std::size_t succeeded, std::size_t failed)
 
 QString IOSMediaViewModel::deletionQuestion() const
 {
-    return tr("Delete %n files from %1?", nullptr, pluralCount(m_rows.selection().count()))
-        .arg(DeviceTexts::name(m_deviceName));
+    return filledIn(tr("Delete %n files from %1?", nullptr, pluralCount(m_rows.selection().count())),
+        DeviceTexts::name(m_deviceName));
 }
 
 void IOSMediaViewModel::deleteSelected()

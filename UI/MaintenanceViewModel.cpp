@@ -6,6 +6,7 @@
 #include "Core/Maintenance/LaunchAgentsScanner.h"
 #include "Core/Maintenance/MaintenanceRunner.h"
 #include "UI/Background.h"
+#include "UI/FilledText.h"
 #include "UI/Maintenance/MaintenanceTexts.h"
 
 #include <exception>
@@ -114,7 +115,7 @@ void MaintenanceViewModel::ask(const QString& agentId)
     const LaunchAgent* agent = m_agents.agent(agentId);
     if (!agent || !agent->removable())
         return;
-    m_question = tr("Remove %1?").arg(MaintenanceTexts::label(*agent));
+    m_question = filledIn(tr("Remove %1?"), MaintenanceTexts::label(*agent));
     m_agentToRemove = *agent;
     Q_EMIT agentToRemoveChanged();
 }

@@ -7,6 +7,7 @@
 #include "Core/Scanning/FormattedBytes.h"
 #include "Platform/RelativeDate.h"
 #include "UI/Background.h"
+#include "UI/FilledText.h"
 #include "UI/PreferenceKeys.h"
 
 #include <chrono>
@@ -66,7 +67,7 @@ bool MenuBarViewModel::hasLastCleanup() const
 QString MenuBarViewModel::lastCleanup() const
 {
     const std::int64_t bytes = m_host.defaults->integerForKey(PreferenceKeys::lastCleanedBytes, 0);
-    return tr("Last cleanup: %1").arg(QString::fromStdString(formattedBytes(bytes)));
+    return filledIn(tr("Last cleanup: %1"), QString::fromStdString(formattedBytes(bytes)));
 }
 
 QString MenuBarViewModel::lastCleanupMoment() const

@@ -5,6 +5,7 @@
 
 #include "Core/Scanning/FormattedBytes.h"
 #include "UI/Background.h"
+#include "UI/FilledText.h"
 #include "UI/PreferenceKeys.h"
 #include "UI/ThrottledProgress.h"
 
@@ -156,7 +157,7 @@ void ScanViewModel::setPhase(Phase phase)
 
 QString ScanViewModel::totalText() const
 {
-    return tr("selected of %1 found").arg(QString::fromStdString(formattedBytes(totalBytes())));
+    return filledIn(tr("selected of %1 found"), QString::fromStdString(formattedBytes(totalBytes())));
 }
 
 bool ScanViewModel::movesToTrash() const

@@ -3,6 +3,7 @@
 
 #include "UI/SettingsViewModel.h"
 
+#include "UI/FilledText.h"
 #include "UI/PreferenceKeys.h"
 
 #include <QCoreApplication>
@@ -45,7 +46,7 @@ void SettingsViewModel::setAsksBeforeCleaning(bool asksBeforeCleaning)
 QString SettingsViewModel::versionText() const
 {
     const QString version = QCoreApplication::applicationVersion();
-    return tr("Version %1").arg(version.isEmpty() ? QStringLiteral("—") : version);
+    return filledIn(tr("Version %1"), version.isEmpty() ? QStringLiteral("—") : version);
 }
 
 void SettingsViewModel::announce(std::string_view key)

@@ -3,6 +3,8 @@
 
 #include "UI/ShownText.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace Korvane {
@@ -79,6 +81,21 @@ void appendIsolated(QString& shown, QStringView part)
     shown += part.sliced(end);
 }
 
+QString isolatedLine(const QString& line)
+{
+    QString shown;
+    shown.reserve(line.size() + 8);
+    for (qsizetype begin = 0; begin <= line.size();) {
+        const qsizetype slash = line.indexOf(QLatin1Char('/'), begin);
+        const qsizetype end = slash < 0 ? line.size() : slash;
+        appendIsolated(shown, QStringView(line).sliced(begin, end - begin));
+        if (slash >= 0)
+            shown += QLatin1Char('/');
+        begin = end + 1;
+    }
+    return shown;
+}
+
 } // namespace
 
 QString ShownText::isolated(const QString& text)
@@ -87,17 +104,13 @@ QString ShownText::isolated(const QString& text)
     // Nothing that is written from right to left comes before it: most texts are told at a glance.
     if (std::all_of(text.begin(), text.end(), [](QChar unit) { return unit.unicode() < firstRightToLeft; }))
         return text;
-    QString shown;
-    shown.reserve(text.size() + 8);
-    for (qsizetype begin = 0; begin <= text.size();) {
-        const qsizetype slash = text.indexOf(QLatin1Char('/'), begin);
-        const qsizetype end = slash < 0 ? text.size() : slash;
-        appendIsolated(shown, QStringView(text).sliced(begin, end - begin));
-        if (slash >= 0)
-            shown += QLatin1Char('/');
-        begin = end + 1;
+    QStringList lines = text.split(QLatin1Char('\n'));
+    for (QString& line : lines) {
+        // No name has isolates of its own once it can be shown: this is a sentence that was filled in.
+        if (!line.contains(firstStrongIsolate))
+            line = isolatedLine(line);
     }
-    return shown;
+    return lines.join(QLatin1Char('\n'));
 }
 
 } // namespace Korvane

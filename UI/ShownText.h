@@ -20,8 +20,8 @@ public:
 
     /// The text with every stretch that is written from right to left in an isolate of its own (Unicode Standard Annex
     /// 9, FSI and PDI), so that it turns nothing around it: the folders of a path stay in their order, an extension
-    /// stays at the end, and what we say beside a name stays where we put it. For drawing alone: no longer equal to the
-    /// name.
+    /// stays at the end, and what we say beside a name stays where we put it. A line that was filled in and has
+    /// isolates stays as it is. For drawing alone: no longer equal to the name.
     Q_INVOKABLE static QString isolated(const QString& text);
 };
 

@@ -3,6 +3,7 @@
 
 #include "App/Languages.h"
 #include "Platform/Localized.h"
+#include "UI/FilledText.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -34,6 +35,7 @@ private Q_SLOTS:
     void qtSpeaksIt();
     void macOSIsToldOfEachLanguage();
     void argumentsAreFilledInOnce();
+    void argumentsKeepToThemselvesFromRightToLeft();
 };
 
 void LanguagesTest::hasACatalogueForEachLanguage()
@@ -174,6 +176,20 @@ void LanguagesTest::argumentsAreFilledInOnce()
     QCOMPARE(filledIn("%2, not %1", { "%2", "a" }), std::string("a, not %2"));
     QCOMPARE(filledIn("100 %, %3 and %", { "a" }), std::string("100 %, %3 and %"));
     QCOMPARE(filledIn("%1%1", { "a" }), std::string("aa"));
+}
+
+void LanguagesTest::argumentsKeepToThemselvesFromRightToLeft()
+{
+    {
+        const Languages languages({ utf8("ar-XB") });
+        QCOMPARE(filledIn("%1, %2", { "26.1 GB", "b" }), std::string("\u206826.1 GB\u2069, \u2068b\u2069"));
+        QCOMPARE(filledIn(utf8("\u05D0 %1"), utf8("/a/\u05D1")), utf8("\u05D0 \u2068/a/\u05D1\u2069"));
+    }
+    for (const char* name : { "en", "de", "" }) {
+        const Languages languages({ utf8(name) });
+        QCOMPARE(filledIn("%1, %2", { "26.1 GB", "b" }), std::string("26.1 GB, b"));
+        QCOMPARE(filledIn(utf8("%2 %1"), utf8("ä%2"), utf8("b")), utf8("b ä%2"));
+    }
 }
 
 QTEST_MAIN(LanguagesTest)

@@ -42,6 +42,8 @@ private Q_SLOTS:
     void textsFromLeftToRightStayAsTheyAre();
     void aNameTurnsNothingAroundIt_data();
     void aNameTurnsNothingAroundIt();
+    void aSentenceThatWasFilledInStaysOne_data();
+    void aSentenceThatWasFilledInStaysOne();
     void lettersOutsideTheBasicPlaneAndTheirMarksStayTogether();
 };
 
@@ -76,6 +78,27 @@ void ShownTextTest::aNameTurnsNothingAroundIt()
     QFETCH(QString, text);
     QFETCH(QString, order);
     QCOMPARE(drawn(ShownText::isolated(text)), order);
+}
+
+void ShownTextTest::aSentenceThatWasFilledInStaysOne_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("order");
+    const auto row = [](const char* name, const char* text, const char* order) {
+        QTest::newRow(name) << QString::fromUtf8(text) << QString::fromUtf8(order);
+    };
+    row("size within", "\u05D0 \u206826.1 GB\u2069 \u05D1", "\u05D1 26.1 GB \u05D0");
+    row("size first", "\u206826.1 GB\u2069 \u05D0\u05D1", "\u05D1\u05D0 26.1 GB");
+    row("path", "\u05D0 \u2068/a/b c\u2069 \u05D1", "\u05D1 /a/b c \u05D0");
+}
+
+void ShownTextTest::aSentenceThatWasFilledInStaysOne()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, order);
+    QCOMPARE(drawn(ShownText::isolated(text)), order);
+    // Line by line.
+    QCOMPARE(ShownText::isolated("/\u05D0\n" + text), "/\u2068\u05D0\u2069\n" + text);
 }
 
 void ShownTextTest::lettersOutsideTheBasicPlaneAndTheirMarksStayTogether()

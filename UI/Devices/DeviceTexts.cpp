@@ -5,6 +5,7 @@
 
 #include "Core/Scanning/FormattedBytes.h"
 #include "Platform/Localized.h"
+#include "UI/FilledText.h"
 #include "UI/ShortenedText.h"
 
 #include <QCoreApplication>
@@ -47,7 +48,7 @@ QString size(std::int64_t bytes) { return QString::fromStdString(formattedBytes(
 
 QString version(std::string_view productVersion)
 {
-    return QCoreApplication::translate("Devices", "iOS %1").arg(name(productVersion));
+    return filledIn(QCoreApplication::translate("Devices", "iOS %1"), name(productVersion));
 }
 
 double usedFraction(const IOSDevice& device)
@@ -61,8 +62,8 @@ QString storage(const IOSDevice& device)
 {
     if (device.totalBytes <= 0)
         return {};
-    return QCoreApplication::translate("Devices", "%1 used of %2 — %3 free")
-        .arg(size(device.usedBytes()), size(device.totalBytes), size(device.freeBytes));
+    return filledIn(QCoreApplication::translate("Devices", "%1 used of %2 — %3 free"), size(device.usedBytes()),
+        size(device.totalBytes), size(device.freeBytes));
 }
 
 QString detail(const IOSBackup& backup)
@@ -72,8 +73,8 @@ QString detail(const IOSBackup& backup)
         parts.append(version(*backup.productVersion));
     if (backup.lastBackupDate) {
         const QDate day = QDateTime::fromMSecsSinceEpoch(backup.lastBackupDate->time_since_epoch().count()).date();
-        parts.append(QCoreApplication::translate("Devices", "· last backup %1")
-                         .arg(QLocale().toString(day, QCoreApplication::translate("Devices", "d MMM yyyy"))));
+        parts.append(filledIn(QCoreApplication::translate("Devices", "· last backup %1"),
+            QLocale().toString(day, QCoreApplication::translate("Devices", "d MMM yyyy"))));
     }
     return parts.join(QLatin1Char(' '));
 }

@@ -5,6 +5,7 @@
 
 #include "Core/Scanning/FormattedBytes.h"
 #include "Platform/Localized.h"
+#include "UI/FilledText.h"
 
 #include <iterator>
 
@@ -14,7 +15,7 @@ CleanedTexts CleanedTexts::of(const Cleaner::Result& result)
 {
     const int failureCount = pluralCount(std::ssize(result.failures));
     CleanedTexts texts;
-    texts.heading = tr("%1 cleaned").arg(QString::fromStdString(formattedBytes(result.cleanedBytes)));
+    texts.heading = filledIn(tr("%1 cleaned"), QString::fromStdString(formattedBytes(result.cleanedBytes)));
     texts.countLine = tr("%Ln items moved to Trash or removed", nullptr, pluralCount(result.cleanedCount));
     if (failureCount > 0)
         texts.failuresLine = tr("%Ln items could not be removed", nullptr, failureCount);

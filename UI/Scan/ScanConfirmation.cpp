@@ -4,6 +4,7 @@
 #include "UI/Scan/ScanConfirmation.h"
 
 #include "Core/Scanning/FormattedBytes.h"
+#include "UI/FilledText.h"
 
 namespace Korvane {
 
@@ -13,10 +14,10 @@ ScanConfirmation ScanConfirmation::of(std::int64_t selectedBytes, bool movesToTr
     ScanConfirmation confirmation;
     confirmation.destructive = !movesToTrash;
     if (movesToTrash) {
-        confirmation.text = tr("%1 will be moved to Trash. You can restore it from there.").arg(size);
+        confirmation.text = filledIn(tr("%1 will be moved to Trash. You can restore it from there."), size);
         confirmation.consent = tr("Move to Trash");
     } else {
-        confirmation.text = tr("%1 will be permanently deleted.").arg(size);
+        confirmation.text = filledIn(tr("%1 will be permanently deleted."), size);
         confirmation.consent = tr("Delete Permanently");
     }
     return confirmation;

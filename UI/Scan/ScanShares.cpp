@@ -4,6 +4,7 @@
 #include "UI/Scan/ScanShares.h"
 
 #include "Core/Scanning/FormattedBytes.h"
+#include "UI/FilledText.h"
 #include "UI/Scan/CategoryTitle.h"
 
 #include <QStringList>
@@ -95,7 +96,7 @@ QString ScanShares::summary() const
 {
     QStringList parts;
     for (const Entry& entry : m_entries)
-        parts.append(tr("%1: %2", "category: size").arg(entry.title, sizeText(entry.bytes)));
+        parts.append(filledIn(tr("%1: %2", "category: size"), entry.title, sizeText(entry.bytes)));
     return parts.join(QStringLiteral(", "));
 }
 

@@ -6,6 +6,7 @@
 #include "Core/Scanning/FormattedBytes.h"
 #include "Core/Uninstalling/LeftoverPlaces.h"
 #include "Platform/DisplayText.h"
+#include "UI/FilledText.h"
 #include "UI/Uninstaller/ApplicationIconProvider.h"
 
 namespace Korvane {
@@ -35,7 +36,7 @@ InstalledAppTexts InstalledAppTexts::of(const InstalledApp& app)
     texts.iconSource = ApplicationIconProvider::source(app.id);
     texts.leftoversTitle = tr("Leftovers (%1)").arg(leftovers);
     texts.withoutLeftovers = whyWithoutLeftovers(app);
-    texts.question = tr("Uninstall %1?").arg(texts.name);
+    texts.question = filledIn(tr("Uninstall %1?"), texts.name);
     if (app.kind == InstalledApp::Kind::Flatpak) {
         texts.note = tr("Removes the app for good and moves all leftovers to Trash");
         texts.consequence = tr("Flatpak will remove the app for good: it can be installed again, but not be put back. "
