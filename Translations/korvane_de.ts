@@ -64,7 +64,7 @@
     <name>AppDetail</name>
     <message>
         <source>Select an application</source>
-        <translation>Ein Programm auswählen</translation>
+        <translation>Programm auswählen</translation>
     </message>
     <message>
         <source>Pick an app to see its size and leftover files.</source>
@@ -145,7 +145,7 @@
     <name>BackupRowContent</name>
     <message>
         <source>Delete backup of %1</source>
-        <translation>Backup von %1 löschen</translation>
+        <translation>Backup von „%1“ löschen</translation>
     </message>
 </context>
 <context>
@@ -160,7 +160,7 @@
     </message>
     <message>
         <source>Measuring backups…</source>
-        <translation>Backups werden vermessen …</translation>
+        <translation>Größe der Backups wird ermittelt …</translation>
     </message>
     <message>
         <source>No backups found.</source>
@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>Xcode Junk</source>
-        <translation>Xcode-Abfall</translation>
+        <translation>Xcode-Müll</translation>
     </message>
     <message>
         <source>Temporary Files</source>
@@ -235,11 +235,11 @@
     <name>CleanerModule</name>
     <message>
         <source>System Junk</source>
-        <translation>Systemabfall</translation>
+        <translation>Systemmüll</translation>
     </message>
     <message>
         <source>Caches, logs and leftover development junk</source>
-        <translation>Caches, Protokolle und Reste von der Entwicklung</translation>
+        <translation>Caches, Protokolle und Entwicklungsreste</translation>
     </message>
     <message>
         <source>Large &amp; Old Files</source>
@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>Device tools not installed</source>
-        <translation>Gerätewerkzeuge nicht installiert</translation>
+        <translation>Gerätetools nicht installiert</translation>
     </message>
     <message>
         <source>No device connected</source>
@@ -355,7 +355,7 @@
     <name>DeviceRow</name>
     <message>
         <source>Used space of %1</source>
-        <translation>Belegter Platz von %1</translation>
+        <translation>Belegter Platz von „%1“</translation>
     </message>
 </context>
 <context>
@@ -455,7 +455,7 @@
     </message>
     <message>
         <source>“%1” is a link; what it leads to is left alone.</source>
-        <translation>„%1“ ist ein Verweis; sein Ziel bleibt unberührt.</translation>
+        <translation>„%1“ ist ein Link; sein Ziel bleibt unberührt.</translation>
     </message>
     <message>
         <source>“%1” holds the Trash, and cannot be moved into it.</source>
@@ -479,7 +479,7 @@
     </message>
     <message>
         <source>The root of the file system is never removed.</source>
-        <translation>Die Wurzel des Dateisystems wird nie entfernt.</translation>
+        <translation>Das Wurzelverzeichnis des Dateisystems wird nie entfernt.</translation>
     </message>
     <message>
         <source>“%1” does not name an item but a way to one.</source>
@@ -495,7 +495,7 @@
     </message>
     <message>
         <source>“%1” is a folder shared by all users, and is never removed.</source>
-        <translation>„%1“ ist ein Ordner aller Benutzer und wird nie entfernt.</translation>
+        <translation>„%1“ ist ein gemeinsamer Ordner aller Benutzer und wird nie entfernt.</translation>
     </message>
     <message>
         <source>A volume is mounted inside</source>
@@ -507,19 +507,19 @@
     </message>
     <message>
         <source>pkexec is missing, which asks for an administrator&apos;s password</source>
-        <translation>pkexec fehlt, das nach dem Administratorpasswort fragt</translation>
+        <translation>Es fehlt pkexec, das nach dem Administratorpasswort fragt</translation>
     </message>
     <message>
         <source>%1 is missing, which frees memory</source>
-        <translation>%1 fehlt, das Speicher freigibt</translation>
+        <translation>Es fehlt %1, das Speicher freigibt</translation>
     </message>
     <message>
         <source>No search index is installed (localsearch, tracker3 or balooctl)</source>
-        <translation>Kein Suchindex ist installiert (localsearch, tracker3 oder balooctl)</translation>
+        <translation>Es ist kein Suchindex installiert (localsearch, tracker3 oder balooctl)</translation>
     </message>
     <message>
         <source>The request for an administrator&apos;s password was dismissed; nothing was changed</source>
-        <translation>Die Frage nach dem Administratorpasswort wurde abgebrochen; nichts wurde geändert</translation>
+        <translation>Die Abfrage des Administratorpassworts wurde abgebrochen; nichts wurde geändert</translation>
     </message>
     <message>
         <source>An administrator&apos;s rights were not given; nothing was changed</source>
@@ -531,7 +531,7 @@
     </message>
     <message>
         <source>An administrator&apos;s password could not be asked for: %1</source>
-        <translation>Nach dem Administratorpasswort konnte nicht gefragt werden: %1</translation>
+        <translation>Das Administratorpasswort konnte nicht abgefragt werden: %1</translation>
     </message>
     <message>
         <source>The command failed: %1</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>Korvane can only see part of your junk until you allow it in System Settings.</source>
-        <translation>Korvane sieht nur einen Teil des Abfalls, bis Sie es in den Systemeinstellungen erlauben.</translation>
+        <translation>Korvane sieht nur einen Teil der unnötigen Dateien, bis Sie es in den Systemeinstellungen erlauben.</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -640,7 +640,7 @@
     <name>Korvane::DashboardViewModel</name>
     <message>
         <source>%1 free of %2</source>
-        <translation>%1 frei von %2</translation>
+        <translation>%1 von %2 frei</translation>
     </message>
 </context>
 <context>
@@ -648,12 +648,12 @@
     <message>
         <source>Install libimobiledevice to talk to iPhones and iPads:
 %1</source>
-        <translation>Installieren Sie libimobiledevice, um mit iPhones und iPads zu sprechen:
+        <translation>Installieren Sie libimobiledevice, um mit iPhones und iPads zu kommunizieren:
 %1</translation>
     </message>
     <message>
         <source>Delete backup of %1?</source>
-        <translation>Backup von %1 löschen?</translation>
+        <translation>Backup von „%1“ löschen?</translation>
     </message>
 </context>
 <context>
@@ -667,7 +667,7 @@
     </message>
     <message>
         <source>Photos &amp; Videos on %1</source>
-        <translation>Fotos und Videos auf %1</translation>
+        <translation>Fotos und Videos auf „%1“</translation>
     </message>
     <message numerus="yes">
         <source>%n files selected</source>
@@ -700,8 +700,8 @@
     <message numerus="yes">
         <source>Delete %n files from %1?</source>
         <translation>
-            <numerusform>%n Datei von %1 löschen?</numerusform>
-            <numerusform>%n Dateien von %1 löschen?</numerusform>
+            <numerusform>%n Datei von „%1“ löschen?</numerusform>
+            <numerusform>%n Dateien von „%1“ löschen?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -830,7 +830,7 @@
     </message>
     <message>
         <source>Another path of this set leads to this same file: cleaning one removes both.</source>
-        <translation>Ein anderer Pfad dieser Gruppe führt zu derselben Datei: Wird einer aufgeräumt, sind beide weg.</translation>
+        <translation>Ein anderer Pfad dieser Gruppe führt zu derselben Datei: Wird einer aufgeräumt, verschwinden beide.</translation>
     </message>
 </context>
 <context>
@@ -852,7 +852,7 @@
     <name>Korvane::ScanViewModel</name>
     <message>
         <source>selected of %1 found</source>
-        <translation>von %1 ausgewählt</translation>
+        <translation>von %1 gefundenen ausgewählt</translation>
     </message>
 </context>
 <context>
@@ -870,7 +870,7 @@
     </message>
     <message>
         <source>Scan System Junk</source>
-        <translation>Systemabfall suchen</translation>
+        <translation>Systemmüll suchen</translation>
     </message>
     <message>
         <source>Quit Korvane</source>
@@ -893,7 +893,7 @@
     </message>
     <message>
         <source>Purge inactive memory to relieve pressure</source>
-        <translation>Inaktiven Speicher leeren und so entlasten</translation>
+        <translation>Inaktiven Speicher freigeben und das System entlasten</translation>
     </message>
     <message>
         <source>Flush DNS Cache</source>
@@ -901,7 +901,7 @@
     </message>
     <message>
         <source>Fix stale DNS lookups and network glitches</source>
-        <translation>Behebt veraltete DNS-Antworten und Netzwerkstörungen</translation>
+        <translation>Veraltete DNS-Antworten und Netzwerkstörungen beheben</translation>
     </message>
     <message>
         <source>Reindex Spotlight</source>
@@ -1009,7 +1009,7 @@
     </message>
     <message>
         <source>Scan System Junk</source>
-        <translation>Systemabfall suchen</translation>
+        <translation>Systemmüll suchen</translation>
     </message>
     <message>
         <source>Free Up RAM</source>
@@ -1038,7 +1038,7 @@
     <name>ResultsHeader</name>
     <message>
         <source>Deselect All</source>
-        <translation>Nichts auswählen</translation>
+        <translation>Auswahl aufheben</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -1053,7 +1053,7 @@
     <name>ResultsList</name>
     <message>
         <source>Findings</source>
-        <translation>Gefundenes</translation>
+        <translation>Ergebnisse</translation>
     </message>
 </context>
 <context>
@@ -1164,7 +1164,7 @@
     </message>
     <message>
         <source>Ctrl+,</source>
-        <translation>Ctrl+,</translation>
+        <translation>Strg+,</translation>
     </message>
     <message>
         <source>Quit Korvane</source>
@@ -1172,7 +1172,7 @@
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation>Ctrl+Q</translation>
+        <translation>Strg+Q</translation>
     </message>
 </context>
 <context>

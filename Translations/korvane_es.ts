@@ -145,7 +145,7 @@
     <name>BackupRowContent</name>
     <message>
         <source>Delete backup of %1</source>
-        <translation>Eliminar la copia de seguridad de %1</translation>
+        <translation>Eliminar la copia de seguridad de «%1»</translation>
     </message>
 </context>
 <context>
@@ -160,7 +160,7 @@
     </message>
     <message>
         <source>Measuring backups…</source>
-        <translation>Midiendo copias de seguridad…</translation>
+        <translation>Calculando el tamaño de las copias de seguridad…</translation>
     </message>
     <message>
         <source>No backups found.</source>
@@ -243,7 +243,7 @@
     </message>
     <message>
         <source>Large &amp; Old Files</source>
-        <translation>Archivos grandes y viejos</translation>
+        <translation>Grandes y antiguos</translation>
     </message>
     <message>
         <source>Find the files eating your disk</source>
@@ -311,7 +311,7 @@
     </message>
     <message>
         <source>Keep your Mac — and soon your iPhone — clean and fast.</source>
-        <translation>Mantenga el Mac – y pronto el iPhone – limpio y rápido.</translation>
+        <translation>Mantenga el Mac —y pronto el iPhone— limpio y rápido.</translation>
     </message>
 </context>
 <context>
@@ -355,7 +355,7 @@
     <name>DeviceRow</name>
     <message>
         <source>Used space of %1</source>
-        <translation>Espacio usado de %1</translation>
+        <translation>Espacio usado de «%1»</translation>
     </message>
 </context>
 <context>
@@ -366,7 +366,7 @@
     </message>
     <message>
         <source>%1 used of %2 — %3 free</source>
-        <translation>%1 usados de %2 – %3 libres</translation>
+        <translation>%1 usados de %2 — %3 libres</translation>
     </message>
     <message>
         <source>· last backup %1</source>
@@ -394,8 +394,8 @@
         <source>%1 — %n copies, %2 each</source>
         <comment>%1 is the name of a file, %2 the size of each copy</comment>
         <translation>
-            <numerusform>%1 – %n copia de %2</numerusform>
-            <numerusform>%1 – %n copias de %2 cada una</numerusform>
+            <numerusform>%1: %n copia de %2</numerusform>
+            <numerusform>%1: %n copias de %2 cada una</numerusform>
         </translation>
     </message>
     <message>
@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>afcclient not found — install libimobiledevice</source>
-        <translation>No se encuentra afcclient – instale libimobiledevice</translation>
+        <translation>No se encuentra afcclient: instale libimobiledevice</translation>
     </message>
     <message>
         <source>Export failed for %1</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>Korvane can only see part of your junk until you allow it in System Settings.</source>
-        <translation>Korvane solo ve una parte de la basura hasta que lo permita en Ajustes del Sistema.</translation>
+        <translation>Korvane solo verá una parte de los archivos innecesarios hasta que usted lo permita en Ajustes del Sistema.</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>Delete backup of %1?</source>
-        <translation>¿Eliminar la copia de seguridad de %1?</translation>
+        <translation>¿Eliminar la copia de seguridad de «%1»?</translation>
     </message>
 </context>
 <context>
@@ -667,7 +667,7 @@
     </message>
     <message>
         <source>Photos &amp; Videos on %1</source>
-        <translation>Fotos y vídeos en %1</translation>
+        <translation>Fotos y vídeos en «%1»</translation>
     </message>
     <message numerus="yes">
         <source>%n files selected</source>
@@ -700,8 +700,8 @@
     <message numerus="yes">
         <source>Delete %n files from %1?</source>
         <translation>
-            <numerusform>¿Eliminar %n archivo de %1?</numerusform>
-            <numerusform>¿Eliminar %n archivos de %1?</numerusform>
+            <numerusform>¿Eliminar %n archivo de «%1»?</numerusform>
+            <numerusform>¿Eliminar %n archivos de «%1»?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -893,7 +893,7 @@
     </message>
     <message>
         <source>Purge inactive memory to relieve pressure</source>
-        <translation>Purgue la memoria inactiva para aliviar la presión</translation>
+        <translation>Libere la memoria inactiva para aliviar la carga</translation>
     </message>
     <message>
         <source>Flush DNS Cache</source>
@@ -982,7 +982,7 @@
     <name>MediaSection</name>
     <message>
         <source>Files in the camera roll, via USB. Deleting here is permanent — the device has no trash.</source>
-        <translation>Archivos del carrete, por USB. Aquí se elimina de forma definitiva – el dispositivo no tiene papelera.</translation>
+        <translation>Archivos del carrete, por USB. Aquí se elimina de forma definitiva: el dispositivo no tiene papelera.</translation>
     </message>
     <message>
         <source>Reading camera roll…</source>
@@ -1031,7 +1031,7 @@
     <name>ResultRow</name>
     <message>
         <source>Not selected by default — may be in use or needed by the system.</source>
-        <translation>No seleccionado de forma predeterminada – puede estar en uso o ser necesario para el sistema.</translation>
+        <translation>No seleccionado de forma predeterminada: puede estar en uso o ser necesario para el sistema.</translation>
     </message>
 </context>
 <context>
@@ -1219,7 +1219,7 @@
     <name>TaskStatus</name>
     <message>
         <source>Done</source>
-        <translation>Hecho</translation>
+        <translation>Listo</translation>
     </message>
 </context>
 <context>

@@ -145,7 +145,7 @@
     <name>BackupRowContent</name>
     <message>
         <source>Delete backup of %1</source>
-        <translation>Supprimer la sauvegarde de %1</translation>
+        <translation>Supprimer la sauvegarde de «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -243,7 +243,7 @@
     </message>
     <message>
         <source>Large &amp; Old Files</source>
-        <translation>Gros et vieux fichiers</translation>
+        <translation>Volumineux et anciens</translation>
     </message>
     <message>
         <source>Find the files eating your disk</source>
@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>Device tools not installed</source>
-        <translation>Outils pour appareils non installés</translation>
+        <translation>Les outils pour appareils ne sont pas installés</translation>
     </message>
     <message>
         <source>No device connected</source>
@@ -355,7 +355,7 @@
     <name>DeviceRow</name>
     <message>
         <source>Used space of %1</source>
-        <translation>Espace utilisé de %1</translation>
+        <translation>Espace utilisé de «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -407,7 +407,7 @@
     <name>Errors</name>
     <message>
         <source>The listing of %1 is too long</source>
-        <translation>La liste de %1 est trop longue</translation>
+        <translation>La liste de «&#xa0;%1&#xa0;» est trop longue</translation>
     </message>
     <message>
         <source>afcclient not found — install libimobiledevice</source>
@@ -415,11 +415,11 @@
     </message>
     <message>
         <source>Export failed for %1</source>
-        <translation>Échec de l’exportation de %1</translation>
+        <translation>Échec de l’exportation de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Export failed for %1; what lies there now could not be moved to the Trash: %2</source>
-        <translation>Échec de l’exportation de %1&#x202f;; ce qui s’y trouve à présent n’a pas pu être mis à la corbeille&#xa0;: %2</translation>
+        <translation>Échec de l’exportation de «&#xa0;%1&#xa0;»&#x202f;; ce qui s’y trouve à présent n’a pas pu être placé dans la corbeille&#xa0;: %2</translation>
     </message>
     <message>
         <source>stopping it was cancelled</source>
@@ -439,11 +439,11 @@
     </message>
     <message>
         <source>not moved to the Trash: %1</source>
-        <translation>non mis à la corbeille&#xa0;: %1</translation>
+        <translation>non placé dans la corbeille&#xa0;: %1</translation>
     </message>
     <message>
         <source>moved to the Trash, but it may still run until the next login: %1</source>
-        <translation>mis à la corbeille, mais peut encore s’exécuter jusqu’à la prochaine ouverture de session&#xa0;: %1</translation>
+        <translation>placé dans la corbeille, mais peut encore s’exécuter jusqu’à la prochaine ouverture de session&#xa0;: %1</translation>
     </message>
     <message>
         <source>Unknown error</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>Korvane can only see part of your junk until you allow it in System Settings.</source>
-        <translation>Korvane ne voit qu’une partie des fichiers inutiles tant que vous ne l’y autorisez pas dans les réglages système.</translation>
+        <translation>Korvane ne voit qu’une partie des fichiers inutiles tant que vous ne l’y autorisez pas dans Réglages Système.</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -572,7 +572,7 @@
     <name>GeneralSettingsView</name>
     <message>
         <source>Move files to Trash instead of deleting</source>
-        <translation>Mettre les fichiers à la corbeille au lieu de les supprimer</translation>
+        <translation>Placer les fichiers dans la corbeille au lieu de les supprimer</translation>
     </message>
     <message>
         <source>Ask for confirmation before cleaning</source>
@@ -591,7 +591,7 @@
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation>Mettre à la corbeille</translation>
+        <translation>Placer dans la corbeille</translation>
     </message>
 </context>
 <context>
@@ -624,8 +624,8 @@
     <message numerus="yes">
         <source>%Ln items moved to Trash or removed</source>
         <translation>
-            <numerusform>%Ln élément mis à la corbeille ou supprimé</numerusform>
-            <numerusform>%Ln éléments mis à la corbeille ou supprimés</numerusform>
+            <numerusform>%Ln élément placé dans la corbeille ou supprimé</numerusform>
+            <numerusform>%Ln éléments placés dans la corbeille ou supprimés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>Delete backup of %1?</source>
-        <translation>Supprimer la sauvegarde de %1&#x202f;?</translation>
+        <translation>Supprimer la sauvegarde de «&#xa0;%1&#xa0;»&#x202f;?</translation>
     </message>
 </context>
 <context>
@@ -667,7 +667,7 @@
     </message>
     <message>
         <source>Photos &amp; Videos on %1</source>
-        <translation>Photos et vidéos sur %1</translation>
+        <translation>Photos et vidéos sur «&#xa0;%1&#xa0;»</translation>
     </message>
     <message numerus="yes">
         <source>%n files selected</source>
@@ -700,8 +700,8 @@
     <message numerus="yes">
         <source>Delete %n files from %1?</source>
         <translation>
-            <numerusform>Supprimer %n fichier de %1&#x202f;?</numerusform>
-            <numerusform>Supprimer %n fichiers de %1&#x202f;?</numerusform>
+            <numerusform>Supprimer %n fichier de «&#xa0;%1&#xa0;»&#x202f;?</numerusform>
+            <numerusform>Supprimer %n fichiers de «&#xa0;%1&#xa0;»&#x202f;?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -746,13 +746,13 @@
     </message>
     <message>
         <source>Removes the app for good and moves all leftovers to Trash</source>
-        <translation>Supprime l’app définitivement et met tous les résidus à la corbeille</translation>
+        <translation>Supprime l’app définitivement et place tous les résidus dans la corbeille</translation>
     </message>
     <message numerus="yes">
         <source>Flatpak will remove the app for good: it can be installed again, but not be put back. %n leftover items will be moved to Trash.</source>
         <translation>
-            <numerusform>Flatpak supprimera l’app définitivement&#xa0;: elle pourra être réinstallée, mais pas remise en place. %n élément résiduel sera mis à la corbeille.</numerusform>
-            <numerusform>Flatpak supprimera l’app définitivement&#xa0;: elle pourra être réinstallée, mais pas remise en place. %n éléments résiduels seront mis à la corbeille.</numerusform>
+            <numerusform>Flatpak supprimera l’app définitivement&#xa0;: elle pourra être réinstallée, mais pas remise en place. %n élément résiduel sera placé dans la corbeille.</numerusform>
+            <numerusform>Flatpak supprimera l’app définitivement&#xa0;: elle pourra être réinstallée, mais pas remise en place. %n éléments résiduels seront placés dans la corbeille.</numerusform>
         </translation>
     </message>
     <message>
@@ -761,18 +761,18 @@
     </message>
     <message>
         <source>Removes the app and all leftovers to Trash</source>
-        <translation>Met l’app et tous ses résidus à la corbeille</translation>
+        <translation>Place l’app et tous ses résidus dans la corbeille</translation>
     </message>
     <message numerus="yes">
         <source>The app and %n leftover items will be moved to Trash.</source>
         <translation>
-            <numerusform>L’app et %n élément résiduel seront mis à la corbeille.</numerusform>
-            <numerusform>L’app et %n éléments résiduels seront mis à la corbeille.</numerusform>
+            <numerusform>L’app et %n élément résiduel seront placés dans la corbeille.</numerusform>
+            <numerusform>L’app et %n éléments résiduels seront placés dans la corbeille.</numerusform>
         </translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation>Mettre à la corbeille</translation>
+        <translation>Placer dans la corbeille</translation>
     </message>
 </context>
 <context>
@@ -797,11 +797,11 @@
     <name>Korvane::ScanConfirmation</name>
     <message>
         <source>%1 will be moved to Trash. You can restore it from there.</source>
-        <translation>%1 seront mis à la corbeille. Vous pourrez les restaurer depuis celle-ci.</translation>
+        <translation>%1 seront placés dans la corbeille. Vous pourrez les restaurer depuis celle-ci.</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation>Mettre à la corbeille</translation>
+        <translation>Placer dans la corbeille</translation>
     </message>
     <message>
         <source>%1 will be permanently deleted.</source>
@@ -901,7 +901,7 @@
     </message>
     <message>
         <source>Fix stale DNS lookups and network glitches</source>
-        <translation>Corrige les réponses DNS périmées et les soucis de réseau</translation>
+        <translation>Corrigez les réponses DNS périmées et les problèmes de réseau</translation>
     </message>
     <message>
         <source>Reindex Spotlight</source>
@@ -928,18 +928,18 @@
     <name>MaintenanceHeader</name>
     <message>
         <source>Launch agents and daemons that start automatically. Removing a user agent moves its file to Trash.</source>
-        <translation>Agents et daemons qui se lancent automatiquement. Supprimer un agent de l’utilisateur met son fichier à la corbeille.</translation>
+        <translation>Agents et daemons qui se lancent automatiquement. Supprimer un agent de l’utilisateur place son fichier dans la corbeille.</translation>
     </message>
 </context>
 <context>
     <name>MaintenanceView</name>
     <message>
         <source>The launch agent file will be moved to Trash. It stops running after the next login.</source>
-        <translation>Le fichier de l’agent sera mis à la corbeille. Il ne s’exécutera plus après la prochaine ouverture de session.</translation>
+        <translation>Le fichier de l’agent sera placé dans la corbeille. Il ne s’exécutera plus après la prochaine ouverture de session.</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation>Mettre à la corbeille</translation>
+        <translation>Placer dans la corbeille</translation>
     </message>
 </context>
 <context>

@@ -49,7 +49,7 @@
     <name>AllCleanView</name>
     <message>
         <source>All Clean!</source>
-        <translation>きれいです！</translation>
+        <translation>すべてきれいです！</translation>
     </message>
     <message>
         <source>Nothing found to clean in this module.</source>
@@ -160,7 +160,7 @@
     </message>
     <message>
         <source>Measuring backups…</source>
-        <translation>バックアップを計測中…</translation>
+        <translation>バックアップのサイズを計算中…</translation>
     </message>
     <message>
         <source>No backups found.</source>
@@ -263,7 +263,7 @@
     </message>
     <message>
         <source>Speed up and maintain your Mac</source>
-        <translation>Macを高速に保ち、手入れします</translation>
+        <translation>Macを高速化し、最適な状態に保ちます</translation>
     </message>
     <message>
         <source>Duplicates</source>
@@ -366,7 +366,7 @@
     </message>
     <message>
         <source>%1 used of %2 — %3 free</source>
-        <translation>%2中%1を使用 — 空き%3</translation>
+        <translation>%2中%1を使用、空き%3</translation>
     </message>
     <message>
         <source>· last backup %1</source>
@@ -393,7 +393,7 @@
         <source>%1 — %n copies, %2 each</source>
         <comment>%1 is the name of a file, %2 the size of each copy</comment>
         <translation>
-            <numerusform>%1 — %nコピー、各%2</numerusform>
+            <numerusform>%1: %nコピー、各%2</numerusform>
         </translation>
     </message>
     <message>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>afcclient not found — install libimobiledevice</source>
-        <translation>afcclientが見つかりません — libimobiledeviceをインストールしてください</translation>
+        <translation>afcclientが見つかりません。libimobiledeviceをインストールしてください</translation>
     </message>
     <message>
         <source>Export failed for %1</source>
@@ -827,14 +827,14 @@
     <message>
         <source>%1: %2</source>
         <comment>category: size</comment>
-        <translation>%1：%2</translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>Korvane::ScanViewModel</name>
     <message>
         <source>selected of %1 found</source>
-        <translation>を選択中（検出 %1）</translation>
+        <translation>選択中（検出: %1）</translation>
     </message>
 </context>
 <context>
@@ -883,7 +883,7 @@
     </message>
     <message>
         <source>Fix stale DNS lookups and network glitches</source>
-        <translation>古いDNS参照やネットワークの不調を直します</translation>
+        <translation>古いDNS情報やネットワークの不調を解消します</translation>
     </message>
     <message>
         <source>Reindex Spotlight</source>
@@ -1013,7 +1013,7 @@
     <name>ResultRow</name>
     <message>
         <source>Not selected by default — may be in use or needed by the system.</source>
-        <translation>最初は選択されていません — 使用中か、システムに必要な可能性があります。</translation>
+        <translation>最初は選択されていません。使用中か、システムに必要な可能性があります。</translation>
     </message>
 </context>
 <context>

@@ -49,7 +49,7 @@
     <name>AllCleanView</name>
     <message>
         <source>All Clean!</source>
-        <translation>非常干净！</translation>
+        <translation>已经很干净了！</translation>
     </message>
     <message>
         <source>Nothing found to clean in this module.</source>
@@ -366,7 +366,7 @@
     </message>
     <message>
         <source>%1 used of %2 — %3 free</source>
-        <translation>已用 %1，共 %2 — 可用 %3</translation>
+        <translation>已用 %1，共 %2，可用 %3</translation>
     </message>
     <message>
         <source>· last backup %1</source>
@@ -393,7 +393,7 @@
         <source>%1 — %n copies, %2 each</source>
         <comment>%1 is the name of a file, %2 the size of each copy</comment>
         <translation>
-            <numerusform>%1 — %n 个副本，每个 %2</numerusform>
+            <numerusform>%1：%n 个副本，每个 %2</numerusform>
         </translation>
     </message>
     <message>
@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>afcclient not found — install libimobiledevice</source>
-        <translation>未找到 afcclient — 请安装 libimobiledevice</translation>
+        <translation>未找到 afcclient，请安装 libimobiledevice</translation>
     </message>
     <message>
         <source>Export failed for %1</source>
@@ -887,7 +887,7 @@
     </message>
     <message>
         <source>Reindex Spotlight</source>
-        <translation>重建 Spotlight 索引</translation>
+        <translation>重建聚焦索引</translation>
     </message>
     <message>
         <source>Rebuild the search index from scratch</source>
@@ -964,7 +964,7 @@
     <name>MediaSection</name>
     <message>
         <source>Files in the camera roll, via USB. Deleting here is permanent — the device has no trash.</source>
-        <translation>通过 USB 访问的相机胶卷文件。在此删除是永久性的 — 设备没有废纸篓。</translation>
+        <translation>通过 USB 访问的相机胶卷文件。在此删除是永久性的，因为设备没有废纸篓。</translation>
     </message>
     <message>
         <source>Reading camera roll…</source>
@@ -1013,7 +1013,7 @@
     <name>ResultRow</name>
     <message>
         <source>Not selected by default — may be in use or needed by the system.</source>
-        <translation>默认不选择 — 可能正在使用或为系统所需。</translation>
+        <translation>默认不选择：可能正在使用或为系统所需。</translation>
     </message>
 </context>
 <context>
