@@ -7,6 +7,8 @@
 #include "Tests/UI/Support/QmlWarnings.h"
 #include "Tests/UI/Support/Screen.h"
 #include "UI/Background.h"
+#include "UI/PreferenceKeys.h"
+#include "UI/ScanViewModel.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -35,6 +37,18 @@ QQuickItem* shown(QQuickItem* item, const QString& kind)
     return nullptr;
 }
 
+/// All items that are shown and of this kind.
+QList<QQuickItem*> shownAll(const QQuickItem* item, const QString& kind)
+{
+    QList<QQuickItem*> found;
+    for (QQuickItem* child : item->childItems()) {
+        if (shown(child, kind) == child)
+            found.append(child);
+        found.append(shownAll(child, kind));
+    }
+    return found;
+}
+
 qreal middle(const QQuickItem* item) { return item->mapToScene(QPointF(item->width() / 2, 0)).x(); }
 
 /// Whether a text can stand in a window of any language: figures and sizes, places, and the names of what was found.
@@ -58,6 +72,8 @@ private Q_SLOTS:
 
     void theSidebarIsOnTheRight();
     void aRowBeginsOnTheRight();
+    void theMenuOfARowOpensAtItsName();
+    void longAnswersHaveRoomInADialog();
     void everyTextOfEveryScreenIsTranslated_data();
     void everyTextOfEveryScreenIsTranslated();
     void everyTextOfTheFindingsIsTranslated();
@@ -142,6 +158,41 @@ void MirroringTest::aRowBeginsOnTheRight()
     QQuickItem* heading = shown(window()->contentItem(), utf8("CategoryHeading"));
     QVERIFY(heading);
     QCOMPARE(middle(shown(heading, utf8("CheckMark"))), middle(box));
+}
+
+void MirroringTest::theMenuOfARowOpensAtItsName()
+{
+    find();
+    QQuickItem* row = shown(window()->contentItem(), utf8("ResultRow"));
+    const QQuickItem* name = shown(row, utf8("ResultRowContent"));
+    QVERIFY(name);
+    row->forceActiveFocus(Qt::TabFocusReason);
+    QTest::keyClick(window(), Qt::Key_Menu);
+    QTRY_VERIFY(shown(window()->contentItem(), utf8("MenuItem")) != nullptr);
+    const QQuickItem* item = shown(window()->contentItem(), utf8("MenuItem"));
+    const qreal start = name->mapToScene(QPointF(name->width(), 0)).x();
+    const qreal menuStart = item->mapToScene(QPointF(item->width(), 0)).x();
+    // Within the menu's own frame.
+    QVERIFY2(menuStart <= start && menuStart > start - 20, qPrintable(QString::number(menuStart - start)));
+}
+
+void MirroringTest::longAnswersHaveRoomInADialog()
+{
+    m_test->host.defaults->setBool(PreferenceKeys::moveToTrashInsteadOfDelete, false);
+    find();
+    auto* viewModel
+        = shown(window()->contentItem(), utf8("ResultsView"))->property("viewModel").value<ScanViewModel*>();
+    QVERIFY(viewModel);
+    viewModel->requestClean();
+    QTRY_VERIFY(shown(window()->contentItem(), utf8("ConfirmationContent")) != nullptr);
+    const QQuickItem* dialog = shown(window()->contentItem(), utf8("ConfirmationContent"));
+    const QList<QQuickItem*> buttons = shownAll(dialog, utf8("Button"));
+    QCOMPARE(buttons.size(), 2);
+    for (const QQuickItem* button : buttons) {
+        const qreal needed = button->property("implicitContentWidth").toReal();
+        const QString text = button->property("text").toString();
+        QTRY_VERIFY2(button->property("availableWidth").toReal() >= needed, qPrintable(text));
+    }
 }
 
 void MirroringTest::everyTextOfEveryScreenIsTranslated_data()

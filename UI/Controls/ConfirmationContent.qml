@@ -69,6 +69,7 @@ FocusScope {
 
                 Layout.fillWidth: true
                 Layout.preferredWidth: 100
+                Layout.minimumWidth: implicitWidth
                 text: content.cancelText
                 onClicked: content.cancelled()
             }
@@ -77,6 +78,7 @@ FocusScope {
 
                 Layout.fillWidth: true
                 Layout.preferredWidth: 100
+                Layout.minimumWidth: implicitWidth
                 kind: content.destructive ? Button.Destructive : Button.Prominent
                 text: content.confirmText
                 onClicked: content.confirmed()

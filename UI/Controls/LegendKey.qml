@@ -13,7 +13,8 @@ Row {
     required property color shade
     required property string title
     required property string size
-    /// How wide the name may become before it is cut in the middle.
+    /// How wide the name may become before its end is cut off. Cut in the middle, a size in it would lose its first
+    /// figures.
     property real widestTitle: Metrics.legendName
 
     spacing: Theme.spacing
@@ -28,7 +29,7 @@ Row {
     Label {
         width: Math.min(implicitWidth, key.widestTitle)
         style: Label.Callout
-        elide: Text.ElideMiddle
+        elide: Text.ElideRight
         text: ShownText.isolated(key.title)
         Accessible.ignored: true
     }

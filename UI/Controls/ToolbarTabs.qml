@@ -32,7 +32,7 @@ T.TabBar {
     contentItem: Item {
         ListView {
             anchors.horizontalCenter: parent.horizontalCenter
-            width: Math.min(contentWidth, parent.width)
+            width: Math.min(bar.contentWidth, parent.width)
             height: parent.height
             model: bar.contentModel
             currentIndex: bar.currentIndex

@@ -27,6 +27,8 @@ T.CheckDelegate {
     /// Whether the Space bar is down for the whole category, so that letting go of it must not tick the row.
     property bool togglesCategory: false
 
+    /// Where the name begins.
+    readonly property real nameStart: row.mirrored ? row.width - row.rightPadding : row.leftPadding
     readonly property string shieldHelp: qsTr("Not selected by default — may be in use or needed by the system.")
     /// What is to be known of the row beside what it shows.
     readonly property string remarks: (row.shielded ? ". " + row.shieldHelp : "")
@@ -58,10 +60,10 @@ T.CheckDelegate {
     Accessible.onPressAction: row.press()
     Accessible.onToggleAction: row.press()
 
-    Keys.onMenuPressed: row.menuRequested(row.leftPadding, row.height)
+    Keys.onMenuPressed: row.menuRequested(row.nameStart, row.height)
     Keys.onPressed: event => {
         if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier) {
-            row.menuRequested(row.leftPadding, row.height);
+            row.menuRequested(row.nameStart, row.height);
             event.accepted = true;
         } else if (event.key === Qt.Key_Space && event.modifiers === Qt.ShiftModifier) {
             row.categoryToggled();

@@ -15,11 +15,13 @@ KeyboardList {
     /// Makes the headings. Not to be created in this file: when Qt 6.4 uses a heading again it looks for "section" in the
     /// context of the component, finds the list's own there, and leaves the heading with the title of another category.
     required property Component heading
-    function openMenu(itemId: string, name: string, place: Item, x: real, y: real) {
-        menu.itemId = itemId;
-        menu.title = name;
-        menu.parent = place;
-        menu.popup(place, x, y);
+
+    /// Opens the menu of a row with the corner where reading begins at this place of it.
+    function openMenu(row: ResultRow, x: real, y: real): void {
+        menu.itemId = row.itemId;
+        menu.title = row.name;
+        menu.parent = row;
+        menu.popup(row, row.mirrored ? x - menu.width : x, y);
     }
 
     /// Goes to a row, the first of its category, with the heading above it at the top.
@@ -55,7 +57,7 @@ KeyboardList {
         onMenuRequested: (x, y) => {
             list.currentIndex = index;
             list.forceActiveFocus();
-            list.openMenu(itemId, name, this, x, y);
+            list.openMenu(this as ResultRow, x, y);
         }
     }
 

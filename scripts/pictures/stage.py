@@ -3,7 +3,6 @@
 """The application on a made-up machine, its keyboard, and pictures of its windows."""
 
 import contextlib
-import hashlib
 import os
 import shutil
 import signal
@@ -13,6 +12,8 @@ import tempfile
 import time
 from pathlib import Path
 
+from gallery import LONGEST, Failure, Gallery, Picture
+
 HERE = Path(__file__).resolve().parent
 # As the person at the machine is called.
 HOME = "/home/ada"
@@ -20,46 +21,12 @@ COLOURS = {"light": ("246,246,248", "29,29,31"), "dark": ("28,28,31", "245,245,2
 # What the machine must not have unless the picture is of one that does.
 HIDDEN_TOOLS = {"tracker3", "balooctl", "balooctl6"}
 DEVICE_TOOLS = {"idevice_id", "ideviceinfo", "afcclient"}
-# In seconds: what is waited for at most, and between two looks.
-LONGEST = 40
+# In seconds, between two looks.
 LOOK = 0.25
-# A window that is not drawn yet is of few colours.
-FEWEST_COLOURS = 32
-
-
-class Failure(Exception):
-    """A picture could not be made."""
 
 
 def output(*command: str) -> bytes:
     return subprocess.run(command, check=True, capture_output=True, timeout=LONGEST).stdout
-
-
-class Gallery:
-    """Where the pictures of one run are kept; no two of them may be the same."""
-
-    def __init__(self, folder: Path, suffix: str):
-        self.folder = folder
-        self.suffix = suffix
-        self.names = {}
-
-    def keep(self, name: str, width: int, height: int, pixels: bytes):
-        same = self.names.setdefault(hashlib.sha256(pixels).hexdigest(), name)
-        if same != name or list(self.names.values()).count(name) > 1:
-            raise Failure(f"{name} looks the same as {same}, or was taken twice")
-        file = self.folder / f"{name}-{self.suffix}.png"
-        subprocess.run(["convert", "-size", f"{width}x{height}", "-depth", "8", "rgb:-", "-strip", f"png24:{file}"],
-                       input=pixels, check=True, timeout=LONGEST)
-        if not file.stat().st_size:
-            raise Failure(f"{file} is empty")
-        print(f"  {name}", flush=True)
-
-
-class Unseen:
-    """Takes the pictures of a way that has been gone before, and keeps none."""
-
-    def keep(self, *_):
-        pass
 
 
 class Machine:
@@ -81,6 +48,7 @@ class Machine:
         self.stand_ins.mkdir()
         self.application = None
         self.last = None
+        self.beneath = None
         self.other = ""
         try:
             self.furnish(home, set(tools))
@@ -141,7 +109,8 @@ class Machine:
         result.update({
             "HOME": HOME, "TMPDIR": f"{HOME}/tmp", "QT_QPA_PLATFORM": "xcb", "MESA_SHADER_CACHE_DISABLE": "true",
             "XDG_RUNTIME_DIR": str(self.place), "XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5",
-            "XDG_CONFIG_DIRS": str(self.stand_ins / "xdg"), "LANG": "C.UTF-8", "STAND_INS": str(self.stand_ins), "LD_PRELOAD": str(self.settings.brake),
+            "XDG_CONFIG_DIRS": str(self.stand_ins / "xdg"), "LANG": "C.UTF-8",
+            "STAND_INS": str(self.stand_ins), "LD_PRELOAD": str(self.settings.brake),
             "BRAKE_READING": str(self.stand_ins / "hold-reading"), "BRAKE_MOVING": str(self.stand_ins / "hold-moving"),
         })
         if self.settings.language:
@@ -217,7 +186,8 @@ class Machine:
         """Another window has the keyboard from now on, so that nothing shows where it was."""
         if not self.other:
             self.processes.insert(0, subprocess.Popen(["display", "-size", "8x8", "-geometry", "+0+0", "xc:gray"]))
-            self.other = output("xdotool", "search", "--sync", "--onlyvisible", "--class", "display").decode().split()[0]
+            found = output("xdotool", "search", "--sync", "--onlyvisible", "--class", "display")
+            self.other = found.decode().split()[0]
         output("xdotool", "windowactivate", "--sync", self.other)
 
     def take_keyboard(self):
@@ -245,9 +215,9 @@ class Machine:
     def look(self, window: str):
         shell = output("xdotool", "getwindowgeometry", "--shell", window).decode()
         place = dict(line.split("=") for line in shell.split())
-        width, height = int(place["WIDTH"]), int(place["HEIGHT"])
-        pixels = output("import", "-silent", "-window", window, "-depth", "8", "rgb:-")
-        return (width, height, pixels) if len(pixels) == 3 * width * height else None
+        picture = Picture(*(int(place[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")),
+                          output("import", "-silent", "-window", window, "-depth", "8", "rgb:-"))
+        return picture if len(picture.pixels) == 3 * picture.width * picture.height else None
 
     def shoot_unfocused(self, name: str, moving: bool = False):
         self.put_keyboard_away()
@@ -257,24 +227,28 @@ class Machine:
     def shoot(self, name: str, window: str = "", moving: bool = False):
         """Keeps what a window shows once that is another picture than the last and does not change any more; of what
         moves for ever, what it shows once it is another one for a second."""
-        window = window or self.window
+        try:
+            self.settle(window, moving)
+        except Failure as failure:
+            raise Failure(f"{name}: {failure}") from None
+        self.gallery.keep(name, self.last)
+
+    def settle(self, window: str = "", moving: bool = False):
+        """Waits until there is something to be kept."""
         before = None
         since = time.monotonic()
         end = since + LONGEST
         while time.monotonic() < end:
             time.sleep(LOOK)
-            now = self.look(window)
-            is_new = now is not None and now != self.last and self.is_drawn(now)
+            now = self.look(window or self.window)
+            is_new = (now is not None and now != self.last and now.is_drawn()
+                      and not (window and self.beneath and now.shows(self.beneath)))
             if not is_new:
                 since = time.monotonic()
             elif (moving and time.monotonic() - since > 1) or (not moving and now == before):
-                self.gallery.keep(name, *now)
                 self.last = now
+                self.beneath = self.beneath if window else now
                 return
             before = now
-        raise Failure(f"{name}: " + ("nothing changed" if self.last == before else "it never came to rest"))
+        raise Failure("nothing changed" if self.last == before else "it never came to rest")
 
-    def is_drawn(self, picture) -> bool:
-        pixels = picture[2]
-        step = 3 * max(1, len(pixels) // 60000)
-        return len({pixels[i:i + 3] for i in range(0, len(pixels), step)}) > FEWEST_COLOURS // 2

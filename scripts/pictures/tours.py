@@ -5,7 +5,8 @@ languages and sizes."""
 
 import time
 
-from stage import DEVICE_TOOLS, Machine, Unseen
+from gallery import Unseen
+from stage import DEVICE_TOOLS, Machine
 
 # In the order of the cards of the dashboard.
 MODULES = ("systemJunk", "largeFiles", "uninstaller", "maintenance", "duplicates", "iosDevice")
@@ -22,6 +23,7 @@ VANISHING = {
 
 
 def open_module(machine, module: str):
+    machine.settle()
     machine.press("Tab", times=STOPS_BEFORE_CARDS + 1 + MODULES.index(module))
     machine.press("Return")
 
@@ -53,6 +55,7 @@ def permission(settings, scheme, gallery):
 
 def settings_window(settings, scheme, gallery):
     with Machine(settings, scheme, gallery, home=()) as machine:
+        machine.settle()
         machine.press("ctrl+comma")
         window = machine.new_window()
         machine.shoot("settings-general", window)
@@ -82,7 +85,7 @@ def scan_module(module: str):
             machine.press("Menu")
             machine.shoot(f"{module}-row-menu")
             machine.press("Escape")
-            time.sleep(0.5)
+            machine.settle()
             machine.press("Tab", "Return")
             machine.shoot(f"{module}-confirmation")
             machine.hold("moving")
@@ -104,6 +107,7 @@ def scan_module(module: str):
             machine.shoot_unfocused(f"{module}-failures-shown")
         with Machine(settings, scheme, gallery, home=()) as machine:
             open_module(machine, module)
+            machine.settle()
             machine.press("Return")
             machine.shoot_unfocused(f"{module}-all-clean")
     return tour
@@ -134,12 +138,14 @@ def uninstaller(settings, scheme, gallery):
     program = "Applications/Inkwhistle Studio.app/Contents/MacOS/Inkwhistle Studio"
     with Machine(settings, scheme, gallery, running=program) as machine:
         open_module(machine, "uninstaller")
+        machine.settle()
         machine.press("Return")
-        time.sleep(2)
+        machine.settle()
         machine.press("Down")
         machine.shoot("uninstaller-running")
     with Machine(settings, scheme, gallery, home=()) as machine:
         open_module(machine, "uninstaller")
+        machine.settle()
         machine.press("Return")
         machine.shoot("uninstaller-empty")
 
@@ -235,6 +241,7 @@ def remember_cleanup(machine):
 def panel(settings, scheme, gallery):
     for name, prepare in (("panel", None), ("panel-cleaned", remember_cleanup)):
         with Machine(settings, scheme, gallery, home=(), trayed=True, prepare=prepare) as machine:
+            machine.settle()
             machine.click_icon()
             window = machine.new_window()
             machine.park()
