@@ -5,6 +5,7 @@
 
 #include "App/ApplicationMenu.h"
 #include "App/PanelPosition.h"
+#include "UI/Controls/ScreenReader.h"
 #include "UI/Uninstaller/ApplicationIconProvider.h"
 
 #include <QApplication>
@@ -21,6 +22,7 @@ KorvaneApp::KorvaneApp(const Host& host)
     , m_applicationMenu(makeApplicationMenu([this] { openSettings(); }))
     , m_panel(m_engine, m_menuBarViewModel)
 {
+    ScreenReader::install();
     connectMenuBar();
     // Whether there is an icon to come back from is known only when the last window closes.
     QApplication::setQuitOnLastWindowClosed(false);

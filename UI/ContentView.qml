@@ -61,22 +61,32 @@ Window {
         anchors.fill: parent
         colors: Theme.windowBackground
     }
-    Sidebar {
-        id: sidebar
+    Backstage {
+        id: backstage
 
-        anchors.left: parent.left
-        anchors.top: parent.top
-        anchors.bottom: parent.bottom
-        width: Metrics.sidebarWidth
-        viewModel: window.viewModel
-        onSettingsRequested: window.showSettings()
-    }
-    DetailArea {
-        anchors.left: sidebar.right
-        anchors.right: parent.right
-        anchors.top: parent.top
-        anchors.bottom: parent.bottom
-        viewModel: window.viewModel
+        anchors.fill: parent
+        closed: ScreenReader.asking
+        Accessible.ignored: !backstage.closed
+        Accessible.role: Accessible.Pane
+        Accessible.name: window.title
+
+        Sidebar {
+            id: sidebar
+
+            anchors.left: parent.left
+            anchors.top: parent.top
+            anchors.bottom: parent.bottom
+            width: Metrics.sidebarWidth
+            viewModel: window.viewModel
+            onSettingsRequested: window.showSettings()
+        }
+        DetailArea {
+            anchors.left: sidebar.right
+            anchors.right: parent.right
+            anchors.top: parent.top
+            anchors.bottom: parent.bottom
+            viewModel: window.viewModel
+        }
     }
     Component {
         id: settingsComponent

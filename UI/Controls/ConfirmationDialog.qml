@@ -34,7 +34,13 @@ T.Dialog {
     implicitWidth: Metrics.dialogWidth
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     closePolicy: T.Popup.CloseOnEscape
-    onAboutToShow: dialog.answered = false
+    onAboutToShow: {
+        dialog.answered = false;
+        ScreenReader.setAsking(dialog, true);
+    }
+    onAboutToHide: ScreenReader.setAsking(dialog, false)
+    // Once a screen reader is there, what the content lies in is a dialog too, of no name.
+    Component.onCompleted: dialog.contentItem.parent.Accessible.ignored = true
     onOpened: (dialog.contentItem as ConfirmationContent).focusDefault()
 
     contentItem: ConfirmationContent {

@@ -64,4 +64,9 @@ ListView {
         }
         event.accepted = true;
     }
+
+    ReadingOrder {
+        of: list.contentItem
+        rowHeight: list.rowHeight
+    }
 }

@@ -18,6 +18,8 @@ T.Menu {
     padding: Theme.spacingTiny
     overlap: 1
     delegate: MenuItem { }
+    // Once a screen reader is there, what the content lies in is a menu too, of no name.
+    Component.onCompleted: menu.contentItem.parent.Accessible.ignored = true
 
     contentItem: ListView {
         implicitHeight: contentHeight

@@ -16,6 +16,7 @@ T.ProgressBar {
     implicitWidth: 200
     implicitHeight: Metrics.barHeight
     Accessible.role: Accessible.ProgressBar
+    onValueChanged: ScreenReader.announceValue(control)
 
     background: Rectangle {
         radius: height / 2

@@ -25,6 +25,11 @@ ListView {
     Accessible.name: qsTr("Items that could not be removed")
     T.ScrollBar.vertical: ScrollBar { }
 
+    ReadingOrder {
+        of: list.contentItem
+        rowHeight: Metrics.tallRowHeight
+    }
+
     delegate: Item {
         id: row
 

@@ -81,7 +81,6 @@ ListView {
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Applications")
     T.ScrollBar.vertical: ScrollBar { }
-
     onActiveFocusChanged: list.pointed = false
     Keys.onPressed: event => {
         list.pointed = false;
@@ -94,6 +93,11 @@ ListView {
             list.typed(event.text);
             event.accepted = true;
         }
+    }
+
+    ReadingOrder {
+        of: list.contentItem
+        rowHeight: list.rowHeight
     }
 
     // Without a selected row there is none to show that the keyboard is here.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "Tests/UI/Support/AccessibleChecks.h"
+#include "UI/Controls/ScreenReader.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -111,7 +112,11 @@ class AccessibleChecksTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QAccessible::setActive(true); }
+    void initTestCase()
+    {
+        QAccessible::setActive(true);
+        ScreenReader::install();
+    }
     void seesWhatIsWrong_data();
     void seesWhatIsWrong();
 };
@@ -121,6 +126,9 @@ void AccessibleChecksTest::seesWhatIsWrong_data()
     QTest::addColumn<QString>("what");
     QTest::addColumn<QString>("instead");
     QTest::addColumn<QString>("problem");
+    const QByteArray backwards = "Item { y: 20; Accessible.role: Accessible.List; Accessible.name: \"All\"; "
+                                 "Text { z: 1; y: 20; text: \"Low\"; Accessible.name: text } "
+                                 "Text { y: 0; text: \"High\"; Accessible.name: text } }";
     const auto add = [](const char* title, const char* what, const char* instead, const char* problem) {
         QTest::newRow(title) << QString::fromUtf8(what) << QString::fromUtf8(instead) << QString::fromUtf8(problem);
     };
@@ -133,7 +141,13 @@ void AccessibleChecksTest::seesWhatIsWrong_data()
     add("no checkable state", "Accessible.checkable: true", "", "is not told to be checkable");
     add("a text that is not read", "Accessible.description: \"Something\"", "", "can be seen and not read: Something");
     add("a title that is none", "Accessible.Heading", "Accessible.StaticText", "looks like a heading");
-    add("a bar without a value", "Accessible.description: \"half of it\"", "", "does not tell its value");
+    add("a bar without a value", "T.ProgressBar {",
+        "Item { property real value; Accessible.role: Accessible.ProgressBar", "does not tell its value");
+    add("an order against the places", "id: row\n", ("id: row\n" + backwards).constData(),
+        "is read after what is below it");
+    add("something behind a dialog", "id: row\n",
+        "id: row; Item { Accessible.role: Accessible.Dialog; Accessible.name: \"Asks\" }\n",
+        "can be reached behind a dialog");
     add("a decoration that is read", "Image {", "Image { Accessible.role: Accessible.Graphic", "is a decoration");
     add("a dialog beside the keyboard", "id: row",
         "id: row; Item { Accessible.role: Accessible.Dialog; "

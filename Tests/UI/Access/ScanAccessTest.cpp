@@ -80,6 +80,15 @@ void ScanAccessTest::theResults()
     scan();
     QTRY_VERIFY(row("com.apple.thumbnails"));
     checkAccess(window(), "results of which some are in use and most are out of view");
+    // Rows that are made anew, and such that are used again.
+    tabTo("org.example.maps");
+    key(Qt::Key_End);
+    checkTree(window(), "the last of the results");
+    key(Qt::Key_PageUp);
+    key(Qt::Key_PageUp);
+    checkTree(window(), "results in the middle");
+    key(Qt::Key_Home);
+    checkTree(window(), "the first of the results again");
 }
 
 void ScanAccessTest::theResultsPartlyChosen()

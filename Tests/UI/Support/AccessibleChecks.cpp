@@ -18,9 +18,15 @@ namespace {
 
 using Visit = std::function<void(QQuickItem*)>;
 
+/// Whether a dialog is in front of it, so that nothing in it is to be found.
+bool isClosed(const QQuickItem* item)
+{
+    return item->inherits("Korvane::Backstage") && item->property("closed").toBool();
+}
+
 void eachShown(QQuickItem* item, const Visit& visit)
 {
-    if (!isShown(item))
+    if (!isShown(item) || isClosed(item))
         return;
     visit(item);
     for (QQuickItem* child : item->childItems())
@@ -103,7 +109,7 @@ void checkPassive(const AccessibleNode& node, QStringList& problems)
         problems.append(QStringLiteral("is in the tree without a name: ") + node.title());
     if (node.role() == QAccessible::ProgressBar) {
         QAccessibleValueInterface* value = node.interface->valueInterface();
-        if (value == nullptr && node.description().isEmpty())
+        if (value == nullptr ? !node.state().busy : !value->currentValue().isValid())
             problems.append(QStringLiteral("does not tell its value: ") + node.title());
     }
     if (node.role() == QAccessible::Graphic && node.description().isEmpty())
@@ -159,8 +165,30 @@ void checkDialog(const AccessibleTree& tree, const QQuickWindow* window, QString
             continue;
         if (!node.item->isAncestorOf(window->activeFocusItem()))
             problems.append(QStringLiteral("does not hold the keyboard: ") + node.title());
+        for (const AccessibleNode& other : tree.nodes()) {
+            if (other.isActive() && !node.item->isAncestorOf(other.item))
+                problems.append(QStringLiteral("can be reached behind a dialog: ") + other.title());
+        }
         if (tree.around(node.item->parentItem(), { QAccessible::Dialog }) != nullptr)
             problems.append(QStringLiteral("is a dialog in a dialog: ") + node.title());
+    }
+}
+
+// Not more than that nothing is read after what is wholly below it: a heading may stay over the first row.
+void checkOrder(const AccessibleTree& tree, QStringList& problems)
+{
+    for (const AccessibleNode& list : tree.nodes()) {
+        if (list.role() != QAccessible::List)
+            continue;
+        const AccessibleNode* before = nullptr;
+        for (const AccessibleNode& node : tree.nodes()) {
+            if (node.above != list.item || node.role() == QAccessible::ScrollBar)
+                continue;
+            if (before != nullptr
+                && node.item->mapToScene(QPointF(0, node.item->height())).y() <= before->item->mapToScene({}).y())
+                problems.append(QStringLiteral("is read after what is below it: ") + node.title());
+            before = &node;
+        }
     }
 }
 
@@ -198,6 +226,7 @@ QStringList accessibleProblems(QQuickWindow* window)
             problems.append(QStringLiteral("is not in the tree: ") + QLatin1String(item->metaObject()->className()));
     });
     checkDialog(tree, window, problems);
+    checkOrder(tree, problems);
     checkDifferences(tree, problems);
     if (!std::any_of(tree.nodes().begin(), tree.nodes().end(),
             [](const AccessibleNode& node) { return node.role() == QAccessible::Heading; }))
@@ -209,6 +238,8 @@ namespace {
 
 void waitUntilAtRest(QQuickWindow* window)
 {
+    // Only what is there already is told that a screen reader has come.
+    QAccessible::setActive(true);
     // On a busy machine two looks may fall into one frame.
     constexpr int enough = 3;
     QString now = QStringLiteral("nothing yet");
