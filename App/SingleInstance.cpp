@@ -62,6 +62,8 @@ std::optional<std::filesystem::path> socketPath(
     return path;
 }
 
+std::filesystem::path lockPath(const std::filesystem::path& socket) { return socket.native() + ".lock"; }
+
 /// What of a token can go into a message of one line.
 QByteArray presentable(const QByteArray& token)
 {
@@ -92,6 +94,7 @@ SingleInstance::SingleInstance(
     : m_socket(socketPath(environment, runtimeFolder, session))
 {
     connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::answer);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &SingleInstance::putBack);
 }
 
 SingleInstance::Outcome SingleInstance::claim(const QByteArray& activationToken)
@@ -117,8 +120,7 @@ SingleInstance::Lock SingleInstance::lock()
     if (!m_socket)
         return Lock::Unknown;
     constexpr mode_t forTheUser = S_IRUSR | S_IWUSR;
-    const std::string path = m_socket->native() + ".lock";
-    FileDescriptor file(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, forTheUser));
+    FileDescriptor file(::open(lockPath(*m_socket).c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, forTheUser));
     if (!file)
         return Lock::Unknown;
     if (::flock(file.get(), LOCK_EX | LOCK_NB) != 0)
@@ -134,6 +136,34 @@ void SingleInstance::listen()
     QLocalServer::removeServer(name);
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     m_server.listen(name);
+    const QString folder = QFile::decodeName(m_socket->parent_path().c_str());
+    // It may be a new one of the same name, while the old one is watched.
+    m_watcher.removePath(folder);
+    m_watcher.addPath(folder);
+}
+
+bool SingleInstance::isLockInPlace() const
+{
+    struct stat held = {};
+    struct stat found = {};
+    return ::fstat(m_lock.get(), &held) == 0 && ::lstat(lockPath(*m_socket).c_str(), &found) == 0
+        && held.st_dev == found.st_dev && held.st_ino == found.st_ino;
+}
+
+void SingleInstance::putBack()
+{
+    const bool isLocked = isLockInPlace();
+    struct stat socket = {};
+    if (isLocked && ::lstat(m_socket->c_str(), &socket) == 0 && S_ISSOCK(socket.st_mode))
+        return;
+    const auto folder = m_socket->parent_path();
+    if ((::mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST) || !isPrivate(folder))
+        return;
+    // Another one that has come meanwhile may have it.
+    if (!isLocked && lock() != Lock::Ours)
+        return;
+    m_server.close();
+    listen();
 }
 
 void SingleInstance::answer()

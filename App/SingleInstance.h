@@ -7,6 +7,7 @@
 #include "Platform/FileDescriptor.h"
 
 #include <QByteArray>
+#include <QFileSystemWatcher>
 #include <QLocalServer>
 #include <QObject>
 
@@ -20,7 +21,7 @@ namespace Korvane {
 /// what runs.
 ///
 /// Main thread. The first one holds a lock that ends with its process, however that ends, and listens on a socket that
-/// only this user can reach.
+/// only this user can reach. Both are put back when something cleans them away, as is done in temporary folders.
 class SingleInstance : public QObject {
     Q_OBJECT
 
@@ -56,11 +57,15 @@ private:
 
     Lock lock();
     void listen();
+    /// Whether the lock is still where others look for it.
+    bool isLockInPlace() const;
+    void putBack();
     void answer();
 
     std::optional<std::filesystem::path> m_socket;
     FileDescriptor m_lock;
     QLocalServer m_server;
+    QFileSystemWatcher m_watcher; ///< Of the folder of both; asks for nothing while nothing happens there.
 };
 
 } // namespace Korvane

@@ -51,10 +51,6 @@ private Q_SLOTS:
     void waitsForOneThatIsJustBeginning();
     void isNotHeldUpByOneThatHangs();
     void isNotHeldUpByOneThatDoesNotListen();
-    void onlyThisUserMayAsk();
-    void usesNoFolderThatOthersMayEnter();
-    void usesNoFolderThatIsALink();
-    void goesOnWhereThereIsNoPlace();
     void heedsNothingElse_data();
     void heedsNothingElse();
     void oneThatSaysNothingHoldsUpNobody();
@@ -202,54 +198,6 @@ void SingleInstanceTest::isNotHeldUpByOneThatDoesNotListen()
     QTRY_VERIFY(second.hasEnded());
     QVERIFY(second.outcome() == Outcome::Silent);
     QVERIFY2(second.milliseconds() < 2000, qPrintable(QString::number(second.milliseconds())));
-}
-
-void SingleInstanceTest::onlyThisUserMayAsk()
-{
-    m_runtime.clear();
-    SingleInstance first(m_environment, m_runtime, "display");
-    QVERIFY(first.claim() == Outcome::First);
-    struct stat status = {};
-    QCOMPARE(::lstat(first.socket()->c_str(), &status), 0);
-    QCOMPARE(status.st_mode & 0077, mode_t{ 0 });
-    QCOMPARE(::lstat(first.socket()->parent_path().c_str(), &status), 0);
-    QCOMPARE(status.st_mode & 0077, mode_t{ 0 });
-    QVERIFY(first.socket()->parent_path().parent_path() == m_environment.temporaryDirectory);
-}
-
-void SingleInstanceTest::usesNoFolderThatOthersMayEnter()
-{
-    QCOMPARE(::chmod(m_runtime.c_str(), 0755), 0);
-    const SingleInstance inTemporaryFolder(m_environment, m_runtime, "display");
-    const auto folder = inTemporaryFolder.socket()->parent_path();
-    QVERIFY(folder.parent_path() == m_environment.temporaryDirectory);
-    QCOMPARE(::chmod(folder.c_str(), 0755), 0);
-    SingleInstance nowhere(m_environment, m_runtime, "display");
-    QVERIFY(!nowhere.socket());
-    QVERIFY(nowhere.claim() == Outcome::First);
-}
-
-void SingleInstanceTest::usesNoFolderThatIsALink()
-{
-    const auto target = m_runtime;
-    m_runtime = *m_folder / "link";
-    std::filesystem::create_directory_symlink(target, m_runtime);
-    const SingleInstance instance(m_environment, m_runtime, "display");
-    QVERIFY(instance.socket()->parent_path().parent_path() == m_environment.temporaryDirectory);
-}
-
-void SingleInstanceTest::goesOnWhereThereIsNoPlace()
-{
-    m_runtime = *m_folder / std::string(120, 'x');
-    QCOMPARE(::mkdir(m_runtime.c_str(), 0700), 0);
-    SingleInstance tooLong(m_environment, m_runtime, "display");
-    QVERIFY(!tooLong.socket());
-    QVERIFY(tooLong.claim() == Outcome::First);
-    m_runtime.clear();
-    m_environment.temporaryDirectory = *m_folder / "missing";
-    SingleInstance missing(m_environment, m_runtime, "display");
-    QVERIFY(!missing.socket());
-    QVERIFY(missing.claim() == Outcome::First);
 }
 
 void SingleInstanceTest::heedsNothingElse_data()
