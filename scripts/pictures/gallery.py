@@ -19,9 +19,7 @@ class Failure(Exception):
 
 @dataclasses.dataclass
 class Picture:
-    """What a window shows, and where on the screen it is."""
-    x: int
-    y: int
+    """What a window shows."""
     width: int
     height: int
     pixels: bytes
@@ -29,18 +27,6 @@ class Picture:
     def is_drawn(self) -> bool:
         step = 3 * max(1, len(self.pixels) // 60000)
         return len({self.pixels[i:i + 3] for i in range(0, len(self.pixels), step)}) > FEWEST_COLOURS
-
-    def row(self, y: int, left: int, right: int) -> bytes:
-        """Of the picture, by places on the screen."""
-        start = 3 * ((y - self.y) * self.width - self.x)
-        return self.pixels[start + 3 * left:start + 3 * right]
-
-    def shows(self, beneath) -> bool:
-        """Whether a window that has just come shows still what was there before."""
-        left, right = max(self.x, beneath.x), min(self.x + self.width, beneath.x + beneath.width)
-        rows = range(max(self.y, beneath.y), min(self.y + self.height, beneath.y + beneath.height))
-        return left < right and len(rows) > 0 and all(
-            self.row(y, left, right) == beneath.row(y, left, right) for y in rows)
 
 
 class Gallery:

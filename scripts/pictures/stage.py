@@ -48,7 +48,6 @@ class Machine:
         self.stand_ins.mkdir()
         self.application = None
         self.last = None
-        self.beneath = None
         self.other = ""
         try:
             self.furnish(home, set(tools))
@@ -176,8 +175,21 @@ class Machine:
         """Takes the pointer to where it is over nothing."""
         output("xdotool", "mousemove", "0", str(self.settings.screen[1] - 1))
 
+    def make_room(self):
+        """Takes the window from where another comes: that shows what lies beneath it until it is drawn."""
+        width, height = self.settings.screen
+        output("xdotool", "windowmove", self.window, str(width - 10), str(height - 10))
+
+    def open_settings(self) -> str:
+        self.make_room()
+        self.press("ctrl+comma")
+        window = self.new_window()
+        output("xdotool", "windowmove", "--sync", window, "40", "60")
+        return window
+
     def click_icon(self):
         """The application's own among the icons of the machine."""
+        self.make_room()
         icon = min(self.wait_for(lambda: self.windows() - {self.window}, "an icon"), key=int)
         self.known.add(icon)
         output("xdotool", "mousemove", "--window", icon, "8", "8", "click", "1")
@@ -215,7 +227,7 @@ class Machine:
     def look(self, window: str):
         shell = output("xdotool", "getwindowgeometry", "--shell", window).decode()
         place = dict(line.split("=") for line in shell.split())
-        picture = Picture(*(int(place[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")),
+        picture = Picture(int(place["WIDTH"]), int(place["HEIGHT"]),
                           output("import", "-silent", "-window", window, "-depth", "8", "rgb:-"))
         return picture if len(picture.pixels) == 3 * picture.width * picture.height else None
 
@@ -238,16 +250,16 @@ class Machine:
         before = None
         since = time.monotonic()
         end = since + LONGEST
+        same = 0
         while time.monotonic() < end:
             time.sleep(LOOK)
             now = self.look(window or self.window)
-            is_new = (now is not None and now != self.last and now.is_drawn()
-                      and not (window and self.beneath and now.shows(self.beneath)))
+            is_new = now is not None and now != self.last and now.is_drawn()
+            same = same + 1 if is_new and now == before else 0
             if not is_new:
                 since = time.monotonic()
-            elif (moving and time.monotonic() - since > 1) or (not moving and now == before):
+            elif (moving and time.monotonic() - since > 1) or (not moving and same >= 2):
                 self.last = now
-                self.beneath = self.beneath if window else now
                 return
             before = now
         raise Failure("nothing changed" if self.last == before else "it never came to rest")

@@ -49,15 +49,13 @@ def withhold_access(machine):
 def permission(settings, scheme, gallery):
     with Machine(settings, scheme, gallery, home=(), prepare=withhold_access) as machine:
         machine.shoot("permission-dashboard")
-        machine.press("ctrl+comma")
-        machine.shoot("permission-settings", machine.new_window())
+        machine.shoot("permission-settings", machine.open_settings())
 
 
 def settings_window(settings, scheme, gallery):
     with Machine(settings, scheme, gallery, home=()) as machine:
         machine.settle()
-        machine.press("ctrl+comma")
-        window = machine.new_window()
+        window = machine.open_settings()
         machine.shoot("settings-general", window)
         # In a language from right to left the other of the two keys moves on, and this one does nothing.
         machine.press("Tab", "Right", "Left" if settings.mirrored else "Right")
