@@ -67,8 +67,8 @@ class Machine:
             (folder / f"autostart/{name}.desktop").write_text(
                 f"[Desktop Entry]\nType=Application\nName={name}\nExec=/usr/bin/{name.split()[0].lower()} --hidden\n")
         window, text = COLOURS[self.scheme]
-        # Qt takes the colours of the desktop from here.
-        (self.home / ".config/kdeglobals").write_text("\n".join(
+        # Qt takes the colours of the desktop from here, and that the cursor of a text does not blink.
+        (self.home / ".config/kdeglobals").write_text("[KDE]\nCursorBlinkRate=0\n\n" + "\n".join(
             f"[Colors:{group}]\nBackgroundNormal={window}\nForegroundNormal={text}\n"
             for group in ("Window", "View", "Button", "Tooltip", "Selection")))
         programs = self.place / "bin"
