@@ -41,6 +41,13 @@ void TrayHost::click(const QPoint& place, int button)
         QString::number(button) });
 }
 
+void TrayHost::doubleClick(const QPoint& place)
+{
+    act({ QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()), QStringLiteral("click"),
+        QStringLiteral("--repeat"), QStringLiteral("2"), QStringLiteral("--delay"), QStringLiteral("50"),
+        QStringLiteral("1") });
+}
+
 void TrayHost::press(const QString& key) { act({ QStringLiteral("key"), key }); }
 
 void TrayHost::act(const QStringList& arguments)

@@ -20,6 +20,8 @@ public:
 
     /// Presses a button of the real pointer there.
     static void click(const QPoint& place, int button);
+    /// Presses the first button twice, as fast as it takes to be one gesture, however busy the machine is.
+    static void doubleClick(const QPoint& place);
     /// Presses a key on the real keyboard, by its X name.
     static void press(const QString& key);
 

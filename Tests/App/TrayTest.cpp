@@ -94,8 +94,7 @@ void TrayTest::theOtherButtonOpensTheMenu()
 void TrayTest::aDoubleClickOpensTheWindow()
 {
     closeWindow();
-    clickIcon();
-    clickIcon();
+    TrayHost::doubleClick(m_app->trayIcon().geometry().center());
     QTRY_VERIFY(window()->isVisible());
     QTRY_VERIFY(window()->isActive());
     QVERIFY(!panel()->isVisible());
