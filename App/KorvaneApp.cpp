@@ -27,7 +27,7 @@ KorvaneApp::KorvaneApp(const Host& host)
     // Whether there is an icon to come back from is known only when the last window closes.
     QApplication::setQuitOnLastWindowClosed(false);
     connect(qApp, &QApplication::lastWindowClosed, this, &KorvaneApp::leaveUnlessInTray);
-    connect(qApp, &QApplication::applicationStateChanged, this, &KorvaneApp::comeBackWhenActivated);
+    connect(qApp, &QApplication::applicationStateChanged, this, &KorvaneApp::comeBackWhenPicked);
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     // The engine owns it.
     m_engine.addImageProvider(
@@ -114,11 +114,13 @@ void KorvaneApp::openSettings()
     Q_EMIT m_content.settingsRequested();
 }
 
-void KorvaneApp::comeBackWhenActivated(Qt::ApplicationState state)
+void KorvaneApp::comeBackWhenPicked(Qt::ApplicationState state)
 {
-    // Picked in the Dock while no window is open.
-    if (state == Qt::ApplicationActive && QGuiApplication::focusWindow() == nullptr && mainWindow() != nullptr
-        && !mainWindow()->isVisible())
+    // The Dock tells an application that it was picked by making it active although it is so already. One that merely
+    // becomes active, as after a question of another program or for its panel, was not asked for its window.
+    const bool wasPicked = state == Qt::ApplicationActive && m_lastState == Qt::ApplicationActive;
+    m_lastState = state;
+    if (wasPicked && QGuiApplication::focusWindow() == nullptr && mainWindow() != nullptr && !mainWindow()->isVisible())
         openMainWindow();
 }
 

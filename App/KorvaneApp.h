@@ -11,6 +11,7 @@
 #include "UI/ContentViewModel.h"
 #include "UI/MenuBarViewModel.h"
 
+#include <QGuiApplication>
 #include <QObject>
 #include <QQmlApplicationEngine>
 
@@ -56,7 +57,7 @@ private:
     void showPanelOrMenu();
     void leaveUnlessInTray();
     void comeBackWithoutTray();
-    void comeBackWhenActivated(Qt::ApplicationState state);
+    void comeBackWhenPicked(Qt::ApplicationState state);
 
     AppState m_state;
     ContentViewModel m_content;
@@ -66,6 +67,7 @@ private:
     QQmlApplicationEngine m_engine;
     MenuBarPanel m_panel;
     Qt::WindowStates m_statesWhenClosed; ///< Of the main window.
+    Qt::ApplicationState m_lastState = QGuiApplication::applicationState();
     std::unique_ptr<TrayWatch> m_trayWatch;
 };
 

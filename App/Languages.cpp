@@ -4,6 +4,7 @@
 #include "App/Languages.h"
 
 #include "Platform/Localized.h"
+#include "Platform/UserLocale.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -47,12 +48,14 @@ Languages::Languages(const QStringList& wanted)
         if (m_qt.load(qtName, folder) || m_qt.load(qtName, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
             QCoreApplication::installTranslator(&m_qt);
     }
+    setSpokenLanguage(speaks ? m_name.toStdString() : "en");
     QGuiApplication::setLayoutDirection(direction);
 }
 
 Languages::~Languages()
 {
     setMessageCatalogue({});
+    setSpokenLanguage({});
     QCoreApplication::removeTranslator(&m_qt);
     QCoreApplication::removeTranslator(&m_own);
 }

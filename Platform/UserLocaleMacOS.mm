@@ -15,4 +15,7 @@ std::string userLocaleName()
     }
 }
 
+// The locale above is in a language of the bundle already.
+void setSpokenLanguage(const std::string&) {}
+
 } // namespace Korvane

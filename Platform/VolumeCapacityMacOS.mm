@@ -16,9 +16,10 @@ std::optional<VolumeCapacity> volumeCapacity(const std::filesystem::path& path)
         NSArray<NSURLResourceKey>* keys =
             @[ NSURLVolumeTotalCapacityKey, NSURLVolumeAvailableCapacityForImportantUsageKey ];
         NSDictionary<NSURLResourceKey, id>* values = [url resourceValuesForKeys:keys error:nil];
-        NSNumber* total = values[NSURLVolumeTotalCapacityKey];
-        if (total == nil)
+        if (values == nil)
             return std::nullopt;
+        // A size that the volume does not tell is 0, and the other one stands.
+        NSNumber* total = values[NSURLVolumeTotalCapacityKey];
         NSNumber* available = values[NSURLVolumeAvailableCapacityForImportantUsageKey];
         return VolumeCapacity { total.longLongValue, available.longLongValue };
     }

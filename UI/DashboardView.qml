@@ -5,6 +5,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import QtQuick.Window
 import Korvane.UI
 
 /// The home screen: a greeting, how full the startup disk is, and a card for each module.
@@ -39,7 +40,8 @@ Flickable {
         StorageOverviewCard {
             width: parent.width
             viewModel: screen.viewModel
-            shown: screen.visible
+            // What a closed window showed is old when it is opened again.
+            shown: screen.visible && screen.Window.visibility !== Window.Hidden
         }
         ModuleGrid {
             width: parent.width

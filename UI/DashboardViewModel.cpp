@@ -48,7 +48,10 @@ QQmlListProperty<ModuleViewModel> DashboardViewModel::modules() { return { this,
 
 void DashboardViewModel::measure()
 {
-    runInBackground(this, m_measure, [this](std::optional<VolumeCapacity> capacity) {
+    runInBackground(this, m_measure, [this, measurement = ++m_measurement](std::optional<VolumeCapacity> capacity) {
+        // Two may be under way, and end the other way round.
+        if (measurement != m_measurement)
+            return;
         m_totalBytes = capacity ? capacity->total : 0;
         m_freeBytes = capacity ? capacity->availableForImportantUsage : 0;
         Q_EMIT measured();

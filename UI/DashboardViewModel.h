@@ -71,6 +71,7 @@ private:
     QList<ModuleViewModel*> m_modules;
     Navigation& m_navigation;
     Measure m_measure;
+    std::uint64_t m_measurement = 0; ///< The number of the last one that was begun.
     std::int64_t m_totalBytes = 0;
     std::int64_t m_freeBytes = 0;
 };

@@ -45,7 +45,8 @@ Window {
         radius: panel.radius
         color: Theme.elevated
         border.width: Theme.hairline
-        border.color: Theme.controlBorder
+        // Opaque: where nothing shines through, what is not would stand on black.
+        border.color: Qt.tint(Theme.elevated, Theme.controlBorder)
         Accessible.role: Accessible.Pane
         Accessible.name: panel.title
     }

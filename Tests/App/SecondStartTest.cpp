@@ -59,6 +59,15 @@ bool isListening(const TemporaryFolder& folder)
     return false;
 }
 
+/// What the tool for X displays answers; nothing where it fails, as when no window is active.
+QString asked(const QStringList& arguments)
+{
+    QProcess tool;
+    tool.start(QStringLiteral("xdotool"), arguments);
+    tool.waitForFinished(longEnough);
+    return QString::fromUtf8(tool.readAllStandardOutput()).trimmed();
+}
+
 } // namespace
 
 /// The program started twice.
@@ -70,6 +79,7 @@ private Q_SLOTS:
     void cleanup() { m_folder.reset(); }
 
     void theSecondEndsWell();
+    void theSecondBringsTheFirstToTheFront();
     void anotherHomeHasAnApplicationOfItsOwn();
     void oneComesAfterACrash();
     void oneComesAfterTheFirstHasEnded();
@@ -100,6 +110,22 @@ void SecondStartTest::theSecondEndsWell()
     first.send(SIGTERM);
     QVERIFY(first.process().waitForFinished(longEnough));
     QCOMPARE(first.process().exitCode(), 0);
+}
+
+void SecondStartTest::theSecondBringsTheFirstToTheFront()
+{
+    if (qgetenv("QT_QPA_PLATFORM") != "xcb")
+        QSKIP("Which window is in front is known on a display only");
+    const Program first(*m_folder, QStringLiteral("home"));
+    QTRY_COMPARE_WITH_TIMEOUT(asked({ "getactivewindow", "getwindowname" }), QStringLiteral("Korvane"), longEnough);
+    const QString window = asked({ "getactivewindow" });
+    asked({ "getactivewindow", "windowminimize" });
+    QTRY_VERIFY_WITH_TIMEOUT(asked({ "search", "--onlyvisible", "--name", "^Korvane$" }).isEmpty(), longEnough);
+    Program second(*m_folder, QStringLiteral("home"));
+    QVERIFY(second.process().waitForFinished(longEnough));
+    QCOMPARE(second.process().exitCode(), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(asked({ "getactivewindow" }), window, longEnough);
+    QCOMPARE(asked({ "search", "--onlyvisible", "--name", "^Korvane$" }), window);
 }
 
 void SecondStartTest::anotherHomeHasAnApplicationOfItsOwn()

@@ -29,12 +29,15 @@ private Q_SLOTS:
     void theBarIsBlueUpToNineTenthsAndOrangeBeyond();
     void aFailedLookupShowsAnEmptyBar();
     void bothPartsOfTheBarAreNamed();
+    void theLegendGivesWayToTheWords();
+    void theDiskIsMeasuredWhenTheCardComesIntoView();
     void smartScanAsksForAScan();
     void aCardGrowsUnderThePointer();
     void aCardDoesNotMoveUnderReducedMotion();
 
 private:
-    void open(std::optional<VolumeCapacity> capacity);
+    /// Counts the measurements that have been told, if asked to.
+    void open(std::optional<VolumeCapacity> capacity, int* measured = nullptr);
     QQuickItem* named(const char* name) const { return control(m_window.get(), QString::fromUtf8(name)); }
     QQuickItem* bar() const { return itemsNamed(m_window.get(), "Used space of the startup disk").value(0); }
     double growth() const { return named("Duplicates")->property("growth").toDouble(); }
@@ -68,10 +71,12 @@ void DashboardCardTest::cleanup()
     m_warnings.reset();
 }
 
-void DashboardCardTest::open(std::optional<VolumeCapacity> capacity)
+void DashboardCardTest::open(std::optional<VolumeCapacity> capacity, int* measured)
 {
     m_dashboard = std::make_unique<DashboardViewModel>(
         QList<ModuleViewModel*>{ m_module.get() }, *m_state, [capacity] { return capacity; });
+    if (measured != nullptr)
+        connect(m_dashboard.get(), &DashboardViewModel::measured, this, [measured] { ++*measured; });
     QQmlComponent component(m_engine.get());
     component.setData("import QtQuick\nimport Korvane.UI\n"
                       "Window { id: w; width: 960; height: 620; visible: true\n"
@@ -129,6 +134,49 @@ void DashboardCardTest::bothPartsOfTheBarAreNamed()
     const QStringList texts = visibleTexts(m_window.get());
     for (const char* text : { "120.5 GB free of 500 GB", "Used", "379.5 GB", "Free", "120.5 GB" })
         QVERIFY2(texts.contains(QLatin1String(text)), text);
+}
+
+void DashboardCardTest::theLegendGivesWayToTheWords()
+{
+    QQmlComponent component(m_engine.get());
+    component.setData("import QtQuick\nimport Korvane.UI\n"
+                      "Window { width: 800; height: 100; visible: true\nproperty alias space: caption.width\n"
+                      "StorageCaption { id: caption; width: 600; tint: Theme.blue; text: \"120.5 GB free of 500 GB\"\n"
+                      "used: \"379.5 GB\"; free: \"120.4 GB\" } }",
+        QUrl());
+    m_window.reset(qobject_cast<QQuickWindow*>(component.create()));
+    QVERIFY2(m_window, qPrintable(component.errorString()));
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    const QStringList words{ QStringLiteral("120.5 GB free of 500 GB") };
+    const QStringList keys{ QStringLiteral("Used"), QStringLiteral("Free") };
+    QStringList seen = visibleTexts(m_window.get());
+    QCOMPARE(seen, words + QStringList({ keys.first(), "379.5 GB", keys.last(), "120.4 GB" }));
+    // What is seen never becomes more as the space becomes less, and each step comes.
+    QList<qsizetype> steps;
+    for (int space = 600; space > 100; space -= 4) {
+        m_window->setProperty("space", space);
+        seen = visibleTexts(m_window.get());
+        if (steps.isEmpty() || steps.last() != seen.size())
+            steps.append(seen.size());
+        if (seen.size() == 3)
+            QCOMPARE(seen, words + keys);
+    }
+    QCOMPARE(steps, QList<qsizetype>({ 5, 3, 1 }));
+    QCOMPARE(seen, words);
+}
+
+void DashboardCardTest::theDiskIsMeasuredWhenTheCardComesIntoView()
+{
+    int measured = 0;
+    open(VolumeCapacity{ 1000, 500 }, &measured);
+    QCOMPARE(measured, 1);
+    m_window->hide();
+    m_window->show();
+    QTRY_COMPARE(measured, 2);
+    QQuickItem* page = m_window->contentItem()->childItems().first();
+    page->setVisible(false);
+    page->setVisible(true);
+    QTRY_COMPARE(measured, 3);
 }
 
 void DashboardCardTest::smartScanAsksForAScan()

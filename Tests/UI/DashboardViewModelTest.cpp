@@ -3,10 +3,13 @@
 
 #include "UI/DashboardViewModel.h"
 #include "App/AppState.h"
+#include "UI/Background.h"
 
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
 
+#include <atomic>
 #include <limits>
 
 using namespace Korvane;
@@ -21,6 +24,7 @@ private Q_SLOTS:
     void tellsWhatIsUsed();
     void aFailedLookupShowsZeroTwice();
     void aSecondMeasurementReplacesTheFirst();
+    void theLastMeasurementStands();
     void namesTheSizes();
     void measuresOffTheMainThread();
     void smartScanAsksForSystemJunk();
@@ -95,6 +99,30 @@ void DashboardViewModelTest::aSecondMeasurementReplacesTheFirst()
     dashboard.measure();
     QTRY_COMPARE(measured.count(), 2);
     QCOMPARE(dashboard.totalBytes(), 0);
+}
+
+void DashboardViewModelTest::theLastMeasurementStands()
+{
+    AppState state;
+    QSemaphore mayEnd;
+    std::atomic<int> begun = 0;
+    DashboardViewModel dashboard({}, state, [&] {
+        const bool isFirst = begun++ == 0;
+        if (isFirst)
+            mayEnd.acquire();
+        return VolumeCapacity{ 1000, isFirst ? 100 : 900 };
+    });
+    QSignalSpy measured(&dashboard, &DashboardViewModel::measured);
+    dashboard.measure();
+    QTRY_COMPARE(begun.load(), 1);
+    dashboard.measure();
+    QTRY_COMPARE(measured.count(), 1);
+    QCOMPARE(dashboard.freeBytes(), 900);
+    mayEnd.release();
+    finishBackgroundWork();
+    QCoreApplication::processEvents();
+    QCOMPARE(dashboard.freeBytes(), 900);
+    QCOMPARE(measured.count(), 1);
 }
 
 void DashboardViewModelTest::namesTheSizes()

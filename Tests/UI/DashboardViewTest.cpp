@@ -15,11 +15,15 @@ class DashboardViewTest : public ScanScreenFixture {
 private Q_SLOTS:
     void whatTheKeyboardLeadsToIsSeenWhole();
     void aPressOnACardThatIsCutOffOpensIt();
+    void theSmallestWindowShowsAllOfIt();
+    void theCardsAreInTheOrderOfTheModules();
 
 private:
     void makeSmall() const;
     QQuickItem* dashboard() const;
     bool isSeenWhole(const QQuickItem* item) const;
+    /// In how many rows the cards stand; -1 when they do not follow each other as the modules do.
+    int rowsOfCards() const;
 };
 
 void DashboardViewTest::makeSmall() const
@@ -78,6 +82,38 @@ void DashboardViewTest::aPressOnACardThatIsCutOffOpensIt()
     QCOMPARE(dashboard()->property("contentY").toReal(), 0.0);
     QTest::mouseRelease(window(), Qt::LeftButton, Qt::NoModifier, top.toPoint());
     QTRY_VERIFY(m_app->state().selectedModule() == CleanerModule::iosDevice);
+}
+
+void DashboardViewTest::theSmallestWindowShowsAllOfIt()
+{
+    window()->resize(window()->minimumSize());
+    QTRY_COMPARE(window()->contentItem()->size().toSize(), window()->minimumSize());
+    QTRY_VERIFY(dashboard()->property("contentHeight").toReal() <= dashboard()->height());
+}
+
+int DashboardViewTest::rowsOfCards() const
+{
+    QPointF last(-1, -1);
+    int rows = 0;
+    for (const char* name :
+        { "System Junk", "Large & Old Files", "Uninstaller", "Maintenance", "Duplicates", "iPhone & iPad" }) {
+        const QPointF place = controls(window(), utf8(name)).last()->mapToItem(dashboard(), QPointF());
+        const bool isNextRow = place.y() > last.y();
+        if (!isNextRow && (place.y() != last.y() || place.x() <= last.x()))
+            return -1;
+        rows += isNextRow ? 1 : 0;
+        last = place;
+    }
+    return rows;
+}
+
+void DashboardViewTest::theCardsAreInTheOrderOfTheModules()
+{
+    for (const int width : { 960, 1080, 1600 }) {
+        window()->resize(width, 700);
+        QTRY_COMPARE(window()->contentItem()->width(), width);
+        QTRY_COMPARE(rowsOfCards(), 2);
+    }
 }
 
 QTEST_MAIN(DashboardViewTest)

@@ -16,6 +16,11 @@ Row {
     /// How wide the name may become before its end is cut off. Cut in the middle, a size in it would lose its first
     /// figures.
     property real widestTitle: Metrics.legendName
+    /// Whether the size is to be seen too.
+    property bool sizeShown: true
+    /// Without and with the size, whichever is seen.
+    readonly property real shortWidth: dot.width + key.spacing + name.width
+    readonly property real wholeWidth: key.shortWidth + key.spacing + amount.implicitWidth
 
     spacing: Theme.spacing
     Accessible.role: Accessible.StaticText
@@ -23,10 +28,14 @@ Row {
     Accessible.description: key.size
 
     LegendDot {
+        id: dot
+
         anchors.verticalCenter: parent.verticalCenter
         shade: key.shade
     }
     Label {
+        id: name
+
         width: Math.min(implicitWidth, key.widestTitle)
         style: Label.Callout
         elide: Text.ElideRight
@@ -34,6 +43,9 @@ Row {
         Accessible.ignored: true
     }
     Label {
+        id: amount
+
+        visible: key.sizeShown
         style: Label.Callout
         color: Theme.secondaryLabel
         elide: Text.ElideNone

@@ -6,8 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Korvane.UI
 
-/// The line under the bar of a storage: how full it is in words, and what the two colours of the bar stand for, where
-/// there is room for both.
+/// The line under the bar of a storage: how full it is in words, and what the two colours of the bar stand for. Where
+/// there is little room the legend leaves out the sizes, and where there is none it goes.
 Item {
     id: caption
 
@@ -18,7 +18,9 @@ Item {
     /// Whether a screen reader is told elsewhere.
     property bool silent: false
 
-    readonly property bool fits: words.implicitWidth + Theme.spacingLarge + legend.width <= caption.width
+    readonly property real room: caption.width - words.implicitWidth - Theme.spacingLarge
+    readonly property bool fits: usedKey.shortWidth + legend.spacing + freeKey.shortWidth <= caption.room
+    readonly property bool fitsWithSizes: usedKey.wholeWidth + legend.spacing + freeKey.wholeWidth <= caption.room
 
     implicitHeight: words.implicitHeight
 
@@ -40,15 +42,21 @@ Item {
         spacing: Theme.spacingLarge
 
         LegendKey {
+            id: usedKey
+
             shade: caption.tint
             title: qsTr("Used")
             size: caption.used
+            sizeShown: caption.fitsWithSizes
             Accessible.ignored: caption.silent
         }
         LegendKey {
+            id: freeKey
+
             shade: Theme.trackFill
             title: qsTr("Free")
             size: caption.free
+            sizeShown: caption.fitsWithSizes
             Accessible.ignored: caption.silent
         }
     }

@@ -17,10 +17,7 @@ Card {
 
     implicitHeight: Metrics.storageCardHeight
 
-    onShownChanged: card.measure()
-    Component.onCompleted: card.measure()
-
-    function measure(): void {
+    onShownChanged: {
         if (card.shown)
             card.viewModel.measure();
     }

@@ -93,7 +93,7 @@ QtObject {
     // Cards.
     readonly property int moduleCardWidth: 196
     readonly property int taskCardWidth: 216
-    readonly property int moduleCardHeight: 164
+    readonly property int moduleCardHeight: 160
     readonly property int storageCardHeight: 124
     /// The list of a camera roll is at least so high, and leaves so much of the page to the rest.
     readonly property int browserLeast: 320
