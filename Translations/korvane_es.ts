@@ -597,6 +597,10 @@
 <context>
     <name>ItemMenu</name>
     <message>
+        <source>Show in Finder</source>
+        <translation>Mostrar en el Finder</translation>
+    </message>
+    <message>
         <source>Show in File Manager</source>
         <translation>Mostrar en el gestor de archivos</translation>
     </message>

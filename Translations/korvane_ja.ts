@@ -595,6 +595,10 @@
 <context>
     <name>ItemMenu</name>
     <message>
+        <source>Show in Finder</source>
+        <translation>Finderに表示</translation>
+    </message>
+    <message>
         <source>Show in File Manager</source>
         <translation>ファイルマネージャで表示</translation>
     </message>

@@ -595,6 +595,10 @@
 <context>
     <name>ItemMenu</name>
     <message>
+        <source>Show in Finder</source>
+        <translation>在访达中显示</translation>
+    </message>
+    <message>
         <source>Show in File Manager</source>
         <translation>在文件管理器中显示</translation>
     </message>

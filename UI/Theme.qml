@@ -31,7 +31,6 @@ QtObject {
     readonly property color tertiaryLabel: highContrast ? label : dark ? "#bcbcc4" : "#58585e"
     readonly property color linkLabel: dark ? "#78beff" : "#0050b0"
     readonly property color warningLabel: dark ? "#ffb340" : "#8f4700"
-    readonly property color errorLabel: dark ? "#ff8a80" : "#b3140a"
     readonly property color successLabel: dark ? "#4cd970" : "#1a6b2f"
     readonly property color onAccent: "#ffffff"
 

@@ -84,9 +84,17 @@ void ThemeTest::theWindowIsTintedFaintly()
 
 void ThemeTest::colourNamesFollowTheAppearance()
 {
-    QCOMPARE(color("blue"), QColor(0x00, 0x7a, 0xff));
-    m_appearance->setDark(true);
-    QCOMPARE(color("blue"), QColor(0x0a, 0x84, 0xff));
+    // As the platform publishes them: name, light, dark.
+    constexpr const char* colours[][3] = { { "blue", "#007aff", "#0a84ff" }, { "cyan", "#32ade6", "#64d2ff" },
+        { "teal", "#30b0c7", "#40c8e0" }, { "green", "#34c759", "#30d158" }, { "orange", "#ff9500", "#ff9f0a" },
+        { "yellow", "#ffcc00", "#ffd60a" }, { "red", "#ff3b30", "#ff453a" }, { "pink", "#ff2d55", "#ff375f" },
+        { "purple", "#af52de", "#bf5af2" }, { "indigo", "#5856d6", "#5e5ce6" }, { "gray", "#8e8e93", "#98989d" } };
+    for (const auto& [name, light, dark] : colours) {
+        m_appearance->setDark(false);
+        QCOMPARE(color(name), QColor(QLatin1String(light)));
+        m_appearance->setDark(true);
+        QCOMPARE(color(name), QColor(QLatin1String(dark)));
+    }
     QVERIFY(luminance(color("window")) < 0.05);
     QVERIFY(luminance(color("label")) > 0.8);
 }

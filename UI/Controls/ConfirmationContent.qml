@@ -69,6 +69,7 @@ FocusScope {
 
                 Layout.fillWidth: true
                 Layout.preferredWidth: 100
+                // Equally wide as long as both texts fit.
                 Layout.minimumWidth: implicitWidth
                 text: content.cancelText
                 onClicked: content.cancelled()

@@ -15,7 +15,7 @@ Menu {
     property string itemId: ""
 
     MenuItem {
-        text: qsTr("Show in File Manager")
+        text: Qt.platform.os === "osx" ? qsTr("Show in Finder") : qsTr("Show in File Manager")
         symbol: "folder"
         onTriggered: menu.actions.showInFileManager(menu.itemId)
     }

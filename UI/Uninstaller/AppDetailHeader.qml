@@ -36,7 +36,7 @@ Item {
             style: Label.Title
             wrapMode: Text.Wrap
             maximumLineCount: 2
-            text: header.viewModel.selected.name
+            text: ShownText.isolated(header.viewModel.selected.name)
             Accessible.role: Accessible.Heading
         }
         Label {

@@ -47,7 +47,7 @@ Item {
             width: parent.width
             font.weight: content.selected ? Font.Bold : Font.Medium
             elide: Text.ElideMiddle
-            text: content.name
+            text: ShownText.isolated(content.name)
             Accessible.ignored: true
         }
         Label {

@@ -7,11 +7,15 @@
 #include "Core/Uninstalling/LeftoverPlaces.h"
 #include "Platform/DisplayText.h"
 #include "UI/FilledText.h"
+#include "UI/ShortenedText.h"
 #include "UI/Uninstaller/ApplicationIconProvider.h"
 
 namespace Korvane {
 
 namespace {
+
+/// In UTF-16 code units: more than any name has, and little enough that a dialog with it stays in the window.
+constexpr qsizetype longestName = 160;
 
 QString whyWithoutLeftovers(const InstalledApp& app)
 {
@@ -28,9 +32,10 @@ InstalledAppTexts InstalledAppTexts::of(const InstalledApp& app)
 {
     const int leftovers = static_cast<int>(app.leftovers.size());
     InstalledAppTexts texts;
-    texts.name = QString::fromStdString(displayText(std::string_view(app.name)));
+    texts.name = shortened(std::string_view(app.name), longestName, Cut::Middle);
     texts.path = QString::fromStdString(displayText(app.url));
-    texts.identifier = QString::fromStdString(displayText(std::string_view(app.bundleID.value_or(""))));
+    texts.identifier
+        = shortened(std::string_view(app.bundleID ? *app.bundleID : std::string()), longestName, Cut::Middle);
     texts.sizeText = QString::fromStdString(formattedBytes(app.sizeInBytes));
     texts.totalText = QString::fromStdString(formattedBytes(app.totalSize()));
     texts.iconSource = ApplicationIconProvider::source(app.id);

@@ -37,7 +37,7 @@ Item {
         Label {
             width: parent.width
             elide: Text.ElideMiddle
-            text: row.name
+            text: ShownText.isolated(row.name)
             Accessible.ignored: true
         }
         Label {
@@ -46,7 +46,7 @@ Item {
             color: Theme.tertiaryLabel
             // The end tells one place from another.
             elide: Text.ElideLeft
-            text: row.path
+            text: ShownText.isolated(row.path)
             Accessible.ignored: true
         }
     }

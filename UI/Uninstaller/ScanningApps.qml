@@ -42,7 +42,7 @@ FocusScope {
             style: Label.Caption
             color: Theme.tertiaryLabel
             elide: Text.ElideMiddle
-            text: view.viewModel.currentPath
+            text: ShownText.isolated(view.viewModel.currentPath)
         }
         Item {
             width: 1

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void saysWhyThereAreNoLeftovers();
     void anAppImageGoesToTheTrashAsABundleDoes();
     void aFlatpakSaysThatItCannotBePutBack();
+    void aNameOfAnyLengthFitsIntoTheWindow();
 };
 
 namespace {
@@ -53,6 +54,17 @@ void InstalledAppTextsTest::anAppImageGoesToTheTrashAsABundleDoes()
     QCOMPARE(texts.consequence, QStringLiteral("The app and 1 leftover items will be moved to Trash."));
     QCOMPARE(texts.consent, QStringLiteral("Move to Trash"));
     QCOMPARE(texts.note, bundle.note);
+}
+
+void InstalledAppTextsTest::aNameOfAnyLengthFitsIntoTheWindow()
+{
+    const std::string name = "A" + std::string(100'000, 'b') + "Z";
+    const InstalledAppTexts texts = InstalledAppTexts::of(app(name, name));
+    for (const QString& shown : { texts.name, texts.identifier }) {
+        QCOMPARE(shown.size(), 160);
+        QVERIFY(shown.startsWith(u'A') && shown.contains(u'\u2026') && shown.endsWith(u'Z'));
+    }
+    QVERIFY(texts.question.size() < 200);
 }
 
 void InstalledAppTextsTest::aFlatpakSaysThatItCannotBePutBack()
