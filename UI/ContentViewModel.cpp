@@ -66,9 +66,12 @@ void ContentViewModel::renewScan()
     ScanViewModel* gone
         = std::exchange(m_scan, hasScan ? new ScanViewModel(selected->module(), m_host, m_navigation, this) : nullptr);
     Q_EMIT scanChanged();
+    if (!gone)
+        return;
+    // A request that comes from now on is for the new one, also where both are of the same module.
+    disconnect(&m_navigation, nullptr, gone, nullptr);
     // The old screen, which goes once control returns to the event loop, still names it until then.
-    if (gone)
-        gone->deleteLater();
+    gone->deleteLater();
 }
 
 template <typename ScreenModel, typename Make>

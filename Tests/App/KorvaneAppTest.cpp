@@ -5,6 +5,7 @@
 #include "App/TerminationSignals.h"
 #include "Tests/Support/TestHost.h"
 #include "Tests/UI/Support/QmlWarnings.h"
+#include "Tests/UI/Support/Screen.h"
 #include "UI/PreferenceKeys.h"
 
 #include <QAction>
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void theMenuTellsTheLastCleanupOnceThereIsOne();
     void theMenuOpensAClosedWindow();
     void theMenuScansSystemJunkInAClosedWindow();
+    void aScreenThatIsGoingTakesNoScanFromItsSuccessor();
     void comesBackWhenPickedWithoutAWindow();
     void theApplicationMenuOpensTheSettings();
     void endsWithItsLastWindowWhereThereIsNoTray();
@@ -109,6 +111,18 @@ void KorvaneAppTest::theMenuScansSystemJunkInAClosedWindow()
     QVERIFY(korvane.mainWindow()->isVisible());
     QVERIFY(korvane.state().selectedModule() == CleanerModule::systemJunk);
     QVERIFY(asked.count() > 0);
+}
+
+void KorvaneAppTest::aScreenThatIsGoingTakesNoScanFromItsSuccessor()
+{
+    const TemporaryFolder folder;
+    KorvaneApp korvane(makeTestHost(folder).host);
+    QVERIFY(korvane.start());
+    // All in one turn of the event loop: the first screen is still there when the last one comes.
+    korvane.state().setSelectedModule(CleanerModule::systemJunk);
+    korvane.state().setSelectedModule(CleanerModule::maintenance);
+    korvane.scanSystemJunk();
+    QTRY_VERIFY(visibleTexts(korvane.mainWindow()).contains(QStringLiteral("All Clean!")));
 }
 
 void KorvaneAppTest::comesBackWhenPickedWithoutAWindow()
