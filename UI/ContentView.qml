@@ -79,8 +79,22 @@ Window {
             width: Metrics.sidebarWidth
             viewModel: window.viewModel
             onSettingsRequested: window.showSettings()
+            onScreenRequested: detail.lead()
+
+            // In an item of the window, so that it is still while a question is open.
+            Shortcut {
+                sequences: ["F6"]
+                onActivated: {
+                    if (sidebar.holds(window.activeFocusItem))
+                        detail.lead();
+                    else
+                        sidebar.lead();
+                }
+            }
         }
         DetailArea {
+            id: detail
+
             anchors.left: sidebar.right
             anchors.right: parent.right
             anchors.top: parent.top

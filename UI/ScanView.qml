@@ -123,5 +123,10 @@ FocusScope {
         symbol: confirmation.destructive ? "exclamationmark.triangle.fill" : "trash"
         accent: confirmation.destructive ? Theme.red : Theme.blue
         onAccepted: screen.viewModel.cleanSelected()
+        onClosed: {
+            // What had the keyboard before may be gone.
+            if (!screen.activeFocus)
+                stage.forceActiveFocus(Qt.TabFocusReason);
+        }
     }
 }

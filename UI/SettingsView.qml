@@ -5,6 +5,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
+import QtQuick.Templates as T
 import QtQuick.Window
 import Korvane.UI
 
@@ -25,6 +26,12 @@ Window {
     color: Theme.window
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
+
+    // The keyboard begins on the tab that is shown.
+    onActiveChanged: {
+        if (window.active && !(window.activeFocusItem as T.Control))
+            tabs.currentItem.forceActiveFocus(Qt.TabFocusReason);
+    }
 
     Shortcut {
         sequences: ["Ctrl+W", "Escape"]

@@ -99,6 +99,11 @@ FocusScope {
         symbol: "trash"
         accent: Theme.red
         onAccepted: screen.viewModel.uninstallSelected()
-        onClosed: screen.confirmUninstall = false
+        onClosed: {
+            screen.confirmUninstall = false;
+            // What had the keyboard before may be gone.
+            if (!screen.activeFocus)
+                stage.forceActiveFocus(Qt.TabFocusReason);
+        }
     }
 }

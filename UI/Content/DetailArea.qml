@@ -13,6 +13,13 @@ Item {
 
     required property ContentViewModel viewModel
 
+    /// Brings the keyboard to the screen: to where it was on it, or to where it begins.
+    function lead(): void {
+        area.forceActiveFocus(Qt.TabFocusReason);
+        if (area.Window.activeFocusItem === area)
+            area.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason);
+    }
+
     FullDiskAccessBanner {
         id: banner
 

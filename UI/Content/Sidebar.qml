@@ -13,6 +13,24 @@ Rectangle {
     required property ContentViewModel viewModel
 
     signal settingsRequested
+    /// The keyboard is to go on to the screen.
+    signal screenRequested
+
+    /// Brings the keyboard to the row of what is shown.
+    function lead(): void {
+        let row = first;
+        while (row !== null && !row.selected)
+            row = row.nextItemInFocusChain(true) as SidebarRow;
+        (row === null ? first : row).forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    /// Whether an item lies in the sidebar.
+    function holds(item: Item): bool {
+        let above = item;
+        while (above !== null && above !== sidebar)
+            above = above.parent;
+        return above === sidebar;
+    }
 
     color: Theme.sidebar
 
@@ -51,6 +69,8 @@ Rectangle {
 
             Keys.onDownPressed: list.step(true)
             Keys.onUpPressed: list.step(false)
+            Keys.onRightPressed: event => event.accepted = list.leave(true)
+            Keys.onLeftPressed: event => event.accepted = list.leave(false)
 
             /// Moves the keyboard to the next or the previous row.
             function step(forward: bool): void {
@@ -59,7 +79,17 @@ Rectangle {
                     next.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason);
             }
 
+            /// Goes on to the screen if it lies to this side; whether it does.
+            function leave(toTheRight: bool): bool {
+                if (toTheRight === list.LayoutMirroring.enabled)
+                    return false;
+                sidebar.screenRequested();
+                return true;
+            }
+
             SidebarRow {
+                id: first
+
                 width: parent.width
                 symbol: "square.grid.2x2"
                 text: qsTr("Dashboard")

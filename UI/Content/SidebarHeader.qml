@@ -42,8 +42,8 @@ Item {
         ink: Theme.secondaryLabel
         symbol: "ellipsis"
         Accessible.name: qsTr("Application menu")
-        onClicked: menu.popup(menuButton, menuButton.mirrored ? menuButton.width - menu.width : 0,
-            menuButton.height + Theme.spacingTiny)
+        onClicked: menu.show(menuButton, menuButton.mirrored ? menuButton.width - menu.width : 0,
+            menuButton.height + Theme.spacingTiny, menuButton.visualFocus)
 
         Menu {
             id: menu

@@ -24,7 +24,10 @@ FocusScope {
 
     /// Puts the keyboard on the button that Return presses: the harmless one when the other destroys.
     function focusDefault(): void {
-        (content.destructive ? cancelButton : confirmButton).forceActiveFocus(Qt.TabFocusReason);
+        const button = content.destructive ? cancelButton : confirmButton;
+        button.forceActiveFocus(Qt.TabFocusReason);
+        // Opened another time it has the keyboard already, without showing it.
+        button.focusReason = Qt.TabFocusReason;
     }
 
     implicitHeight: column.implicitHeight

@@ -12,6 +12,13 @@ import Korvane.UI
 T.Menu {
     id: menu
 
+    /// Opens at this place of an item; with the first command chosen if the keyboard asked for it.
+    function show(place: Item, x: real, y: real, byKeyboard: bool): void {
+        menu.popup(place, x, y);
+        if (byKeyboard)
+            menu.currentIndex = 0;
+    }
+
     implicitWidth: Math.max(180, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     margins: Theme.spacing

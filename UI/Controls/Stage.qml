@@ -11,15 +11,19 @@ FocusScope {
     id: stage
 
     property Item current: null
+    /// Whether the last control that had the keyboard showed it.
+    property bool byKeyboard: false
 
     /// Brings on a view in place of the one before, and the keyboard with it if the screen had that.
     function show(view: Component, hadFocus: bool): void {
         const focused = stage.T.ApplicationWindow.activeFocusControl as T.Control;
-        const byKeyboard = focused !== null && focused.visualFocus;
+        // A view without controls has none, and changes nothing.
+        if (focused !== null)
+            stage.byKeyboard = focused.visualFocus;
         const previous = stage.current;
         stage.current = view.createObject(stage) as Item;
         if (hadFocus)
-            stage.current.forceActiveFocus(byKeyboard ? Qt.TabFocusReason : Qt.OtherFocusReason);
+            stage.current.forceActiveFocus(stage.byKeyboard ? Qt.TabFocusReason : Qt.OtherFocusReason);
         if (previous !== null) {
             previous.visible = false;
             previous.destroy();

@@ -5,9 +5,10 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import Korvane.UI
 
 /// A focus scope that does not lose the keyboard when what had it is disabled, hidden or gone: the scope itself has it
-/// then, and Tab leads on from the control that had it last.
+/// then, the control that had it last still shows the ring if it can be seen, and Tab leads on from there.
 FocusScope {
     id: scope
 
@@ -29,8 +30,8 @@ FocusScope {
             above = above.parent;
         if (above !== scope)
             return;
-        // One that was disabled for a while looks as it did before.
-        if (scope.wasAstray && scope.lastShowed && control === scope.last)
+        // One that was disabled for a while looks as it did before; so does the first one.
+        if (scope.wasAstray && (scope.last === null || (scope.lastShowed && control === scope.last)))
             control.focusReason = Qt.TabFocusReason;
         scope.last = control;
         scope.lastShowed = control.visualFocus;
@@ -52,4 +53,10 @@ FocusScope {
     }
     Keys.onTabPressed: event => event.accepted = scope.goOn(true)
     Keys.onBacktabPressed: event => event.accepted = scope.goOn(false)
+
+    FocusRing {
+        parent: scope.last !== null ? scope.last : scope
+        shown: scope.astray && scope.last !== null && scope.lastShowed
+        gap: scope.last instanceof Button && (scope.last as Button).filled ? Theme.focusRingGap : 0
+    }
 }

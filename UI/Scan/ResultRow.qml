@@ -34,8 +34,13 @@ T.CheckDelegate {
     readonly property string remarks: (row.shielded ? ". " + row.shieldHelp : "")
                                       + (row.sharedHelp === "" ? "" : (row.shielded ? " " : ". ") + row.sharedHelp)
 
+    /// Whether the press that comes now is one of the Space bar.
+    property bool bySpace: false
+
+    /// The pointer has come down on the row.
+    signal pointed
     /// The menu is wanted, at this place of the row.
-    signal menuRequested(real x, real y)
+    signal menuRequested(real x, real y, bool byKeyboard)
     /// The whole category of the row is to be ticked, or unticked.
     signal categoryToggled
 
@@ -60,10 +65,16 @@ T.CheckDelegate {
     Accessible.onPressAction: row.press()
     Accessible.onToggleAction: row.press()
 
-    Keys.onMenuPressed: row.menuRequested(row.nameStart, row.height)
+    Keys.onMenuPressed: row.menuRequested(row.nameStart, row.height, true)
+    onPressed: {
+        if (!row.bySpace)
+            row.pointed();
+        row.bySpace = false;
+    }
     Keys.onPressed: event => {
+        row.bySpace = event.key === Qt.Key_Space && event.modifiers !== Qt.ShiftModifier;
         if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier) {
-            row.menuRequested(row.nameStart, row.height);
+            row.menuRequested(row.nameStart, row.height, true);
             event.accepted = true;
         } else if (event.key === Qt.Key_Space && event.modifiers === Qt.ShiftModifier) {
             row.categoryToggled();
@@ -83,7 +94,7 @@ T.CheckDelegate {
 
         TapHandler {
             acceptedButtons: Qt.RightButton
-            onTapped: eventPoint => row.menuRequested(eventPoint.position.x, eventPoint.position.y)
+            onTapped: eventPoint => row.menuRequested(eventPoint.position.x, eventPoint.position.y, false)
         }
     }
 

@@ -17,11 +17,11 @@ KeyboardList {
     required property Component heading
 
     /// Opens the menu of a row with the corner where reading begins at this place of it.
-    function openMenu(row: ResultRow, x: real, y: real): void {
+    function openMenu(row: ResultRow, x: real, y: real, byKeyboard: bool): void {
         menu.itemId = row.itemId;
         menu.title = row.name;
         menu.parent = row;
-        menu.popup(row, row.mirrored ? x - menu.width : x, y);
+        menu.show(row, row.mirrored ? x - menu.width : x, y, byKeyboard);
     }
 
     /// Goes to a row, the first of its category, with the heading above it at the top.
@@ -50,14 +50,15 @@ KeyboardList {
         showsFocus: list.byKeyboard
         onToggled: list.viewModel.rows.setTicked(itemId, checked)
         onCategoryToggled: list.viewModel.rows.toggleCategory(category)
-        onPressed: {
+        onPointed: {
             list.byKeyboard = false;
             list.currentIndex = index;
         }
-        onMenuRequested: (x, y) => {
+        onMenuRequested: (x, y, byKeyboard) => {
+            list.byKeyboard = byKeyboard;
             list.currentIndex = index;
             list.forceActiveFocus();
-            list.openMenu(this as ResultRow, x, y);
+            list.openMenu(this as ResultRow, x, y, byKeyboard);
         }
     }
 
