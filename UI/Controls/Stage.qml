@@ -24,6 +24,9 @@ FocusScope {
         stage.current = view.createObject(stage) as Item;
         if (hadFocus)
             stage.current.forceActiveFocus(stage.byKeyboard ? Qt.TabFocusReason : Qt.OtherFocusReason);
+        else
+            // No item of a window in the background has the keyboard: it comes back to where the scopes lead.
+            stage.current.focus = true;
         if (previous !== null) {
             previous.visible = false;
             previous.destroy();

@@ -24,6 +24,7 @@ class ScanScreenTest : public ScanScreenFixture {
 private Q_SLOTS:
     void scansTogglesCleansAndFindsItInTheTrash();
     void doesEverythingFromTheKeyboard();
+    void findingsThatCameInTheBackgroundHaveTheKeyboard();
     void escapeLeavesTheConfirmationWithoutCleaning();
     void deletesForGoodWhenThePreferenceSaysSo();
     void aHomeWithoutJunkIsAllClean();
@@ -97,6 +98,26 @@ void ScanScreenTest::doesEverythingFromTheKeyboard()
     QVERIFY(fs::exists(trashed("org.example.mail/index")));
     QVERIFY(fs::exists(home() / "Library/Caches/org.example.maps/tiles/1.png"));
     QVERIFY(fs::exists(home() / "Library/Logs/example.log"));
+}
+
+void ScanScreenTest::findingsThatCameInTheBackgroundHaveTheKeyboard()
+{
+    HeldScan held;
+    tabTo("System Junk");
+    key(Qt::Key_Return);
+    tabTo("Start Scan");
+    screen()->start(holding(held, { { home() / "copy", std::nullopt, "Caches", 1, true } }));
+    QTRY_COMPARE(accessibleName(window()->activeFocusItem()), utf8("Cancel"));
+    QQuickWindow other;
+    other.show();
+    other.requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    held.mayEnd.release();
+    QTRY_VERIFY(named("Clean"));
+
+    window()->requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(window()));
+    QTRY_COMPARE(accessibleName(window()->activeFocusItem()), utf8("copy"));
 }
 
 void ScanScreenTest::escapeLeavesTheConfirmationWithoutCleaning()
