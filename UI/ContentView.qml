@@ -65,6 +65,7 @@ Window {
         id: backstage
 
         anchors.fill: parent
+        focus: true
         closed: ScreenReader.asking
         Accessible.ignored: !backstage.closed
         Accessible.role: Accessible.Pane

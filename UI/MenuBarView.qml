@@ -45,8 +45,7 @@ Window {
         radius: panel.radius
         color: Theme.elevated
         border.width: Theme.hairline
-        // Opaque: where nothing shines through, what is not would stand on black.
-        border.color: Qt.tint(Theme.elevated, Theme.controlBorder)
+        border.color: Theme.elevatedBorder
         Accessible.role: Accessible.Pane
         Accessible.name: panel.title
     }

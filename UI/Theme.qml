@@ -31,6 +31,7 @@ QtObject {
     readonly property color tertiaryLabel: highContrast ? label : dark ? "#bcbcc4" : "#58585e"
     readonly property color linkLabel: dark ? "#78beff" : "#0050b0"
     readonly property color warningLabel: dark ? "#ffb340" : "#8f4700"
+    readonly property color errorLabel: dark ? "#ff8a80" : "#b3140a"
     readonly property color successLabel: dark ? "#4cd970" : "#1a6b2f"
     readonly property color onAccent: "#ffffff"
 
@@ -47,6 +48,8 @@ QtObject {
     readonly property color controlBorder: dark ? (highContrast ? "#b3ffffff" : "#33ffffff")
                                                 : (highContrast ? "#b3000000" : "#2e000000")
     readonly property color checkBorder: highContrast ? label : dark ? "#8cffffff" : "#8c000000"
+    /// Around what floats in a window of its own, where a color that is not opaque would stand on black.
+    readonly property color elevatedBorder: Qt.tint(elevated, controlBorder)
     readonly property color controlFill: dark ? "#1fffffff" : "#ffffff"
     readonly property color hoverFill: dark ? "#12ffffff" : "#0d000000"
     readonly property color pressedFill: dark ? "#1affffff" : "#1a000000"

@@ -121,7 +121,7 @@ void ContrastTest::textCanBeRead()
         verify(ink, color("field"), forText);
         verify(ink, on("warningFill", color("window")), forText);
     }
-    for (const char* ink : { "linkLabel", "warningLabel", "successLabel" }) {
+    for (const char* ink : { "linkLabel", "warningLabel", "errorLabel", "successLabel" }) {
         for (const QColor& ground : grounds())
             verify(ink, ground, forText);
         verify(ink, color("elevated"), forText);

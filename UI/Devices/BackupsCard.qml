@@ -20,9 +20,16 @@ SteadyScope {
         part.forceActiveFocus(Qt.OtherFocusReason);
         if (rows.visible)
             rows.forceActiveFocus(Qt.OtherFocusReason);
+        else if (part.empty)
+            part.goOn(false);
     }
 
     height: column.height
+    // Where nothing is left the keyboard goes back to what comes before.
+    onEmptyChanged: {
+        if (part.empty)
+            part.goOn(false);
+    }
     // What had the keyboard goes while the backups are measured, and comes back.
     onMeasuringChanged: {
         if (part.measuring)

@@ -65,6 +65,10 @@ void DashboardTourTest::scansFromTheDashboardAndCancels()
     QVERIFY(shows(utf8("Scanning…")));
     hit(Qt::Key_Escape);
     arriveAt("Start Scan");
+    // What was cancelled ends, and has its thread free for the next.
+    letScansGo();
+    drain();
+    holdScans();
     open("Dashboard");
     goTo("Smart Scan");
     hit(Qt::Key_Space);

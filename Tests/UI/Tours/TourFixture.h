@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Tests/UI/Scan/HeldScan.h"
 #include "Tests/UI/Scan/ScanScreenFixture.h"
 
 #include <atomic>
