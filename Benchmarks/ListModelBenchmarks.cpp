@@ -3,6 +3,7 @@
 
 /// The list models of the scan screen: what a scan makes ready in the background, and what the main thread then does.
 
+#include "UI/Background.h"
 #include "UI/Scan/CleanFailuresModel.h"
 #include "UI/Scan/ScanResultsModel.h"
 
@@ -151,7 +152,7 @@ void showFailures(benchmark::State& state)
         state.ResumeTiming();
         model.setResult(std::make_shared<const Cleaner::Result>(std::move(arrived)));
         state.PauseTiming();
-        QThreadPool::globalInstance()->waitForDone();
+        backgroundThreads().waitForDone();
         state.ResumeTiming();
     }
     state.SetComplexityN(state.range(0));

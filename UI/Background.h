@@ -15,6 +15,15 @@
 
 namespace Korvane {
 
+/// The threads that work for the screens is done on, for as long as the program runs. Not those that Qt shares: it
+/// paints gradients and scales pictures on them, and waits for them, so that work which keeps them all busy would hold
+/// up every window. Any thread.
+inline QThreadPool& backgroundThreads()
+{
+    static QThreadPool threads;
+    return threads;
+}
+
 /// Runs `work()` on a thread of the pool and hands its value to `done` on the main thread.
 ///
 /// Main thread. `done` is called at most once, from the event loop and never before this function has returned, and not
@@ -37,23 +46,23 @@ void runInBackground(QThreadPool& threads, QObject* receiver, Work work, Done do
     QtConcurrent::run(&threads, std::move(work)).then(std::move(deliver));
 }
 
-/// The same on the shared thread pool.
+/// The same on the threads of all screens.
 template <typename Work, typename Done> void runInBackground(QObject* receiver, Work work, Done done)
 {
-    runInBackground(*QThreadPool::globalInstance(), receiver, std::move(work), std::move(done));
+    runInBackground(backgroundThreads(), receiver, std::move(work), std::move(done));
 }
 
 /// Lets go of a large value away from the main thread; it is freed there if nobody else holds it.
 template <typename Value> void releaseInBackground(std::shared_ptr<Value> value)
 {
-    QThreadPool::globalInstance()->start([value = std::move(value)] {});
+    backgroundThreads().start([value = std::move(value)] {});
 }
 
 /// Waits until all background work has ended, and delivers what it brought. For the end of the program alone, when no
 /// window is left: what was being removed is removed, and recorded.
 inline void finishBackgroundWork()
 {
-    QThreadPool::globalInstance()->waitForDone();
+    backgroundThreads().waitForDone();
     QCoreApplication::sendPostedEvents();
 }
 

@@ -20,7 +20,7 @@ namespace Korvane {
 
 /// The home screen: how full the startup disk is, and the way to every module.
 ///
-/// Main thread; the disk is measured on the shared thread pool.
+/// Main thread; the disk is measured on the `backgroundThreads`.
 class DashboardViewModel : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -25,7 +25,7 @@ namespace Korvane {
 /// Has maintenance tasks carried out, lists what starts by itself, and removes what of it is the user's own.
 ///
 /// Main thread. Tasks run on threads of their own, and as long as those live, whether the screen still exists or not;
-/// the rest runs on the shared thread pool. Destroying it cancels a search for background items; a removal that has
+/// the rest runs on the `backgroundThreads`. Destroying it cancels a search for background items; a removal that has
 /// begun is always finished.
 class MaintenanceViewModel : public QObject {
     Q_OBJECT

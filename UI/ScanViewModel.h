@@ -22,7 +22,7 @@ namespace Korvane {
 
 /// Drives one generic module from scan to clean, and is what its screen shows.
 ///
-/// Main thread. Scans and cleanings run on the shared thread pool. Destroying it cancels a scan and drops what is still
+/// Main thread. Scans and cleanings run on the `backgroundThreads`. Destroying it cancels a scan and drops what is still
 /// on its way; a cleaning that has begun is always finished and recorded, whether its screen still exists or not.
 class ScanViewModel : public QObject {
     Q_OBJECT

@@ -19,7 +19,7 @@ namespace Korvane {
 
 /// Lists the installed applications with what they left behind, and moves one with all of it to the Trash.
 ///
-/// Main thread. Scans and removals run on the shared thread pool. Destroying it cancels a scan and drops what is still
+/// Main thread. Scans and removals run on the `backgroundThreads`. Destroying it cancels a scan and drops what is still
 /// on its way; a removal that has begun is always finished, whether its screen still exists or not.
 class UninstallerViewModel : public QObject {
     Q_OBJECT

@@ -5,11 +5,13 @@
 #include "Tests/UI/Support/QmlWarnings.h"
 #include "Tests/UI/Support/Screen.h"
 #include "UI/Appearance.h"
+#include "UI/Background.h"
 #include "UI/DashboardViewModel.h"
 
 #include <QColor>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QSemaphore>
 #include <QTest>
 
 #include <algorithm>
@@ -31,6 +33,7 @@ private Q_SLOTS:
     void bothPartsOfTheBarAreNamed();
     void theLegendGivesWayToTheWords();
     void theDiskIsMeasuredWhenTheCardComesIntoView();
+    void isPaintedWhileAllThreadsWork();
     void smartScanAsksForAScan();
     void aCardGrowsUnderThePointer();
     void aCardDoesNotMoveUnderReducedMotion();
@@ -177,6 +180,31 @@ void DashboardCardTest::theDiskIsMeasuredWhenTheCardComesIntoView()
     page->setVisible(false);
     page->setVisible(true);
     QTRY_COMPARE(measured, 3);
+}
+
+void DashboardCardTest::isPaintedWhileAllThreadsWork()
+{
+    open(VolumeCapacity{ 1000, 500 });
+    QSemaphore begun;
+    QSemaphore mayEnd;
+    const int threads = backgroundThreads().maxThreadCount();
+    for (int i = 0; i < threads; ++i) {
+        runInBackground(
+            this,
+            [&] {
+                begun.release();
+                mayEnd.acquire();
+                return true;
+            },
+            [](bool) {});
+    }
+    begun.acquire(threads);
+    QCOMPARE(QThreadPool::globalInstance()->activeThreadCount(), 0);
+    m_window->resize(1600, 1000);
+    QTRY_COMPARE(m_window->contentItem()->width(), 1600.0);
+    QVERIFY(!m_window->grabWindow().isNull());
+    mayEnd.release(threads);
+    backgroundThreads().waitForDone();
 }
 
 void DashboardCardTest::smartScanAsksForAScan()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "Tests/UI/Maintenance/MaintenanceAgentsFixture.h"
+#include "UI/Background.h"
 
 #include <QThreadPool>
 
@@ -137,7 +138,7 @@ void MaintenanceRemovalTest::finishesARemovalAtTheEndOfTheApplication()
 
 void MaintenanceRemovalTest::waitingForTheServiceManagerHoldsUpNothingElse()
 {
-    QThreadPool& shared = *QThreadPool::globalInstance();
+    QThreadPool& shared = backgroundThreads();
     const int threads = shared.maxThreadCount();
     shared.setMaxThreadCount(1);
     for (const char* label : { "a.first", "b.second", "c.third" })

@@ -196,7 +196,7 @@ void MaintenanceViewModelTest::runsWhatTheScreenNamesAndNothingElse()
 void MaintenanceViewModelTest::manyTasksHoldUpNothingElse()
 {
     writeFile(host().environment.home / "Library/LaunchAgents/org.example.sync.plist", "");
-    QThreadPool& shared = *QThreadPool::globalInstance();
+    QThreadPool& shared = backgroundThreads();
     const int threads = shared.maxThreadCount();
     shared.setMaxThreadCount(2);
     const int tasks = 7;

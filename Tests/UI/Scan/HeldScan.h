@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Tests/UI/Scan/ScriptedScanner.h"
+#include "UI/Background.h"
 
 #include <QCoreApplication>
 #include <QSemaphore>
@@ -25,7 +26,7 @@ struct HeldScan {
     ~HeldScan()
     {
         mayEnd.release(1000);
-        QThreadPool::globalInstance()->waitForDone();
+        backgroundThreads().waitForDone();
     }
 
     QSemaphore begun;
@@ -56,7 +57,7 @@ inline std::shared_ptr<const JunkScanner> untilCancelled(HeldScan& held)
 /// Lets everything that the pool still does end, and what it posted arrive.
 inline void drain()
 {
-    QThreadPool::globalInstance()->waitForDone();
+    backgroundThreads().waitForDone();
     QCoreApplication::processEvents();
 }
 

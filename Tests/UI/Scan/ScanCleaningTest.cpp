@@ -9,6 +9,7 @@
 #include "Tests/UI/Scan/GatedFileManager.h"
 #include "Tests/UI/Scan/PlainNavigation.h"
 #include "Tests/UI/Scan/ScriptedScanner.h"
+#include "UI/Background.h"
 #include "UI/PreferenceKeys.h"
 #include "UI/ScanViewModel.h"
 
@@ -68,7 +69,7 @@ void ScanCleaningTest::init()
 void ScanCleaningTest::cleanup()
 {
     m_model.reset();
-    QThreadPool::globalInstance()->waitForDone();
+    backgroundThreads().waitForDone();
     QCoreApplication::processEvents();
     QVERIFY2(m_sentinel->isUnchanged(), m_sentinel->difference().c_str());
     m_sentinel.reset();
